@@ -1,0 +1,63 @@
+// The status seam: the main window of the current thread on Windows, installed
+// hooks on the host.
+#include "formatting/kvStatus.h"
+
+#include "formatting/kvMessages.h"
+#include "formatting/kvWinAMCtrlValidateInfo.h"
+
+#if defined(_WIN32)
+
+namespace {
+// Until the framework's thread object exists there is no main window to ask.
+HWND MainWindowOfCurrentThread() { return nullptr; }
+}  // namespace
+
+LRESULT kvSendStatus(WPARAM wParam, LPARAM lParam)
+{
+    HWND hMain = MainWindowOfCurrentThread();
+    return hMain ? ::SendMessageA(hMain, WM_KV_STATUS, wParam, lParam) : 0;
+}
+
+void kvBeep(UINT type) { ::MessageBeep(type); }
+
+#else
+
+namespace {
+std::function<LRESULT(WPARAM, LPARAM)>& Receiver()
+{
+    static std::function<LRESULT(WPARAM, LPARAM)> receiver;
+    return receiver;
+}
+
+std::function<void(unsigned int)>& BeepHook()
+{
+    static std::function<void(unsigned int)> hook;
+    return hook;
+}
+}  // namespace
+
+void kvSetStatusReceiver(std::function<LRESULT(WPARAM, LPARAM)> receiver)
+{
+    Receiver() = std::move(receiver);
+}
+
+void kvSetBeepHook(std::function<void(unsigned int)> hook) { BeepHook() = std::move(hook); }
+
+LRESULT kvSendStatus(WPARAM wParam, LPARAM lParam)
+{
+    return Receiver() ? Receiver()(wParam, lParam) : 0;
+}
+
+void kvBeep(UINT type)
+{
+    if (BeepHook())
+        BeepHook()(type);
+}
+
+#endif
+
+void kvShowStatusMessage(const CString& message)
+{
+    kvWinAMCtrlValidateInfo info(message);
+    kvSendStatus(kvStatusShow, reinterpret_cast<LPARAM>(&info));
+}
