@@ -19,8 +19,9 @@ public:
         ParenNegative = 0x100,
         RoundDecimals = 0x200,
     };
-    enum LowerLimitType { NoLowerLimit = 0, LowerExclusive = 1, LowerInclusive = 2 };
-    enum UpperLimitType { NoUpperLimit = 0, UpperExclusive = 1, UpperInclusive = 2 };
+    // Any value other than 0 and 1 is inclusive, hence the fixed 32-bit type.
+    enum LowerLimitType : int { NoLowerLimit = 0, LowerExclusive = 1, LowerInclusive = 2 };
+    enum UpperLimitType : int { NoUpperLimit = 0, UpperExclusive = 1, UpperInclusive = 2 };
 
     kvNumEditFormatter(unsigned int integers, unsigned int decimals, unsigned long format);
     kvNumEditFormatter(const kvNumEditFormatter&) = default;
@@ -64,7 +65,7 @@ protected:
 
     // Text primitives: each keeps start and end attached to their characters.
     void RemoveChar(CString& text, int& start, int& end, int pos) const;
-    void AddStr(CString& text, int& start, int& end, int pos, const CString& s) const;
+    void AddStr(CString& text, int& start, int& end, int pos, char ch) const;
     void StripCommas(CString& text, int& start, int& end) const;
     void AddCommas(CString& text, int& start, int& end) const;
     void SetPositive(CString& text, int& start, int& end) const;
@@ -75,6 +76,21 @@ protected:
     void StripTrailingZeros(CString& text) const;
 
 private:
+    bool _ApplyChar(CString& text, int& start, int& end, bool overtype, unsigned int key) const;
+    bool _TypeDigit(CString& text, int& start, int& end, bool overtype, unsigned int key) const;
+    bool _TypePoint(CString& text, int& start, int& end, bool overtype) const;
+    void _TypeSign(CString& text, int& start, int& end, bool overtype, unsigned int key) const;
+    void _DeleteAndRebuild(CString& text, int& start, int& end) const;
+    bool _NegativeForbidden() const;
+    bool _TooManyDigits(const CString& text) const;
+    void _ReportTooManyDigits() const;
+
+    void _InsertImpliedPoint(CString& text) const;
+    bool _RoundDecimals(CString& text, int point, bool negative) const;
+    void _ToDisplayForm(CString& text, int& start, int& end) const;
+    bool _WithinLimits(const CString& raw, kvEditFormatterError* err) const;
+    void _PadDecimals(CString& text) const;
+
     unsigned int m_nIntegers;
     unsigned int m_nDecimals;
     unsigned long m_nFormat;
