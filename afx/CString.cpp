@@ -122,17 +122,6 @@ CString& CString::operator+=(char ch)
 
 void CString::Empty() noexcept { SetLength(0); }
 
-char CString::GetAt(int nIndex) const noexcept
-{
-    return (nIndex >= 0 && nIndex < m_nLength) ? m_pchData[nIndex] : '\0';
-}
-
-void CString::SetAt(int nIndex, char ch) noexcept
-{
-    if (nIndex >= 0 && nIndex < m_nLength)
-        m_pchData[nIndex] = ch;
-}
-
 CString CString::Mid(int nFirst) const
 {
     return Mid(nFirst, m_nLength - std::max(nFirst, 0));
@@ -198,21 +187,23 @@ int CString::FindOneOf(const char* pszCharSet) const noexcept
     return hit ? static_cast<int>(hit - m_pchData) : -1;
 }
 
-int CString::Insert(int nIndex, char ch)
-{
-    return Insert(nIndex, CString(ch).GetString());
-}
+// Like MFC, a character is inserted even when it is '\0'.
+int CString::Insert(int nIndex, char ch) { return InsertChars(nIndex, &ch, 1); }
 
 int CString::Insert(int nIndex, const char* psz)
 {
-    nIndex = Clamp(nIndex, 0, m_nLength);
     const CString inserted(psz);  // psz may point into this string
+    return InsertChars(nIndex, inserted.m_pchData, inserted.m_nLength);
+}
+
+int CString::InsertChars(int nIndex, const char* pch, int nCount)
+{
+    nIndex = Clamp(nIndex, 0, m_nLength);
     const int nOld = m_nLength;
-    Reserve(nOld + inserted.m_nLength);
-    std::memmove(m_pchData + nIndex + inserted.m_nLength, m_pchData + nIndex,
-                 static_cast<size_t>(nOld - nIndex));
-    std::memcpy(m_pchData + nIndex, inserted.m_pchData, static_cast<size_t>(inserted.m_nLength));
-    SetLength(nOld + inserted.m_nLength);
+    Reserve(nOld + nCount);
+    std::memmove(m_pchData + nIndex + nCount, m_pchData + nIndex, static_cast<size_t>(nOld - nIndex));
+    std::memcpy(m_pchData + nIndex, pch, static_cast<size_t>(nCount));
+    SetLength(nOld + nCount);
     return m_nLength;
 }
 

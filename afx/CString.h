@@ -38,9 +38,16 @@ public:
     operator const char*() const noexcept { return m_pchData; }
 
     // Reads outside 0..length give '\0' (MFC asserts); writes outside are ignored.
-    char GetAt(int nIndex) const noexcept;
+    char GetAt(int nIndex) const noexcept
+    {
+        return (nIndex >= 0 && nIndex < m_nLength) ? m_pchData[nIndex] : '\0';
+    }
     char operator[](int nIndex) const noexcept { return GetAt(nIndex); }
-    void SetAt(int nIndex, char ch) noexcept;
+    void SetAt(int nIndex, char ch) noexcept
+    {
+        if (nIndex >= 0 && nIndex < m_nLength)
+            m_pchData[nIndex] = ch;
+    }
 
     CString Mid(int nFirst) const;
     CString Mid(int nFirst, int nCount) const;
@@ -89,6 +96,7 @@ public:
     void ReleaseBuffer(int nNewLength = -1) noexcept;
 
 private:
+    int InsertChars(int nIndex, const char* pch, int nCount);
     void Assign(const char* pch, int nLength);
     void Append(const char* pch, int nLength);
     void Reserve(int nCapacity);

@@ -103,6 +103,7 @@ TEST(CString, Searching)
         {"ReverseFind", s.ReverseFind('5'), 6},
         {"FindOneOf", s.FindOneOf(".,"), 1},
         {"GetAt out of range", s.GetAt(99), 0},
+        {"Insert of NUL is a character", [] { CString t("ab"); return t.Insert(1, '\0'); }(), 3},
         {"Compare", CString("a").Compare("b") < 0, 1},
         {"CompareNoCase", CString("ABC").CompareNoCase("abc"), 0},
     };
