@@ -1,0 +1,163 @@
+# kvformat end to end: cmake -DKVFORMAT=<exe> -P run.cmake
+# Each case runs kvformat once and compares standard output and exit status
+# (and, where given, a piece of standard error). All cases run; the script fails
+# at the end with a line-by-line diff of every case that went wrong.
+if(NOT KVFORMAT)
+  message(FATAL_ERROR "run.cmake: pass -DKVFORMAT=<path of kvformat>")
+endif()
+
+set(failures 0)
+set(stdin_file "${CMAKE_CURRENT_BINARY_DIR}/kvformat-stdin.txt")
+
+function(show_lines label text)
+  string(REGEX REPLACE "\n$" "" text "${text}")
+  string(REPLACE "\t" "\\t" text "${text}")
+  string(REPLACE ";" "\\;" text "${text}")
+  string(REPLACE "\n" ";" lines "${text}")
+  foreach(line IN LISTS lines)
+    message("    ${label} ${line}")
+  endforeach()
+endfunction()
+
+# kvformat_case(<name> ARGS <arg>... [STDIN <text>] [STDOUT <text> | STDOUT_CONTAINS <text>]
+#               STATUS <code> [STDERR_CONTAINS <text>])
+function(kvformat_case name)
+  cmake_parse_arguments(PARSE_ARGV 1 case "" "STDIN;STDOUT;STDOUT_CONTAINS;STATUS;STDERR_CONTAINS" "ARGS")
+  file(WRITE "${stdin_file}" "${case_STDIN}")
+  execute_process(COMMAND "${KVFORMAT}" ${case_ARGS}
+    INPUT_FILE "${stdin_file}" OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
+
+  set(problems "")
+  if(NOT status STREQUAL case_STATUS)
+    list(APPEND problems "exit status ${status}, expected ${case_STATUS}")
+  endif()
+  if(DEFINED case_STDOUT AND NOT out STREQUAL case_STDOUT)
+    list(APPEND problems "standard output differs")
+  endif()
+  if(DEFINED case_STDOUT_CONTAINS)
+    string(FIND "${out}" "${case_STDOUT_CONTAINS}" at)
+    if(at EQUAL -1)
+      list(APPEND problems "standard output lacks '${case_STDOUT_CONTAINS}'")
+    endif()
+  endif()
+  if(DEFINED case_STDERR_CONTAINS)
+    string(FIND "${err}" "${case_STDERR_CONTAINS}" at)
+    if(at EQUAL -1)
+      list(APPEND problems "standard error lacks '${case_STDERR_CONTAINS}'")
+    endif()
+  endif()
+  if(NOT problems)
+    return()
+  endif()
+
+  math(EXPR count "${failures} + 1")
+  set(failures ${count} PARENT_SCOPE)
+  string(REPLACE ";" " " shown_args "${case_ARGS}")
+  message("FAIL ${name}: kvformat ${shown_args}")
+  foreach(problem IN LISTS problems)
+    message("  ${problem}")
+  endforeach()
+  if(DEFINED case_STDOUT AND NOT out STREQUAL case_STDOUT)
+    show_lines("-" "${case_STDOUT}")
+    show_lines("+" "${out}")
+  endif()
+  show_lines("stderr:" "${err}")
+endfunction()
+
+# --- valid values: display form, then the raw form stored from it ------------
+kvformat_case("separators and rounding" ARGS number --integers 9 --decimals 2 --separators --round 1234.567
+  STDOUT "1,234.57\t1234.57\n" STATUS 0)
+kvformat_case("zeros stripped" ARGS number 007.50 STDOUT "7.5\t7.5\n" STATUS 0)
+kvformat_case("preset 2 pads and shows zero on exit" ARGS number --format 2 STDIN "1234.5\n\n"
+  STDOUT "1,234.50\t1234.5\n0.00\t\n" STATUS 0)
+kvformat_case("negative in parentheses" ARGS number --paren-negative --separators -1234.5
+  STDOUT "(1,234.5)\t-1234.5\n" STATUS 0)
+kvformat_case("implied decimal" ARGS number --implied-decimal 12345 STDOUT "123.45\t123.45\n" STATUS 0)
+kvformat_case("rounding that would overflow is cut" ARGS number --integers 2 --round 99.999
+  STDOUT "99.99\t99.99\n" STATUS 0)
+kvformat_case("limit given inline" ARGS number --lower=5 --upper=10 --upper-kind=exclusive 5 9.99
+  STDOUT "5\t5\n9.99\t9.99\n" STATUS 0)
+kvformat_case("string trimmed and upper-cased" ARGS string --max 5 --min 2 --case upper " abc "
+  STDOUT "ABC\tABC\n" STATUS 0)
+
+# --- invalid values: message, selection of the faulty characters, text -------
+kvformat_case("too many integer digits, sign not selected" ARGS number --integers 3 -12345.6
+  STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t1..6\t-12345.6\n"
+  STATUS 1)
+kvformat_case("error selection follows the separators" ARGS number --integers 3 --separators -12345.6
+  STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t1..7\t-12,345.6\n"
+  STATUS 1)
+kvformat_case("too many decimals" ARGS number 1234.567
+  STDOUT "error\tToo many digits after the decimal point. A maximum of 2 digits is allowed.\t5..8\t1234.567\n"
+  STATUS 1)
+kvformat_case("whole-number field" ARGS number --integers 4 --decimals 0 12345
+  STDOUT "error\tToo many digits. A maximum of 4 digits is allowed.\t0..5\t12345\n" STATUS 1)
+kvformat_case("upper limit inclusive" ARGS number --upper 100 100.5
+  STDOUT "error\tValue must be less than or equal to 100.00.\t0..0\t100.5\n" STATUS 1)
+kvformat_case("lower limit exclusive, empty is zero" ARGS number --lower 0 --lower-kind exclusive 0
+  STDOUT "error\tValue must be greater than 0.00.\t0..0\t\n" STATUS 1)
+kvformat_case("one invalid value among valid ones" ARGS number --decimals 0 1 2.5 3
+  STDOUT "1\t1\nerror\tToo many digits after the decimal point. A maximum of 0 digits is allowed.\t2..3\t2.5\n3\t3\n"
+  STATUS 1)
+kvformat_case("string too short" ARGS string --min 2 --case upper " a "
+  STDOUT "error\tNot enough characters. A minimum of 2 characters is required.\t0..1\tA\n" STATUS 1)
+kvformat_case("string too long" ARGS string --max 3 abcdef
+  STDOUT "error\tToo many characters. A maximum of 3 characters is allowed.\t3..6\tabcdef\n" STATUS 1)
+
+# --- raw values shown ---------------------------------------------------------
+kvformat_case("raw to display" ARGS number --separators --from-raw 1234567.5
+  STDOUT "1,234,567.5\t1234567.5\n" STATUS 0)
+kvformat_case("raw negative in parentheses" ARGS number --from-raw --paren-negative -12.5
+  STDOUT "(12.5)\t-12.5\n" STATUS 0)
+kvformat_case("raw too wide" ARGS number --integers 3 --from-raw 12345
+  STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t0..5\t12345\n"
+  STATUS 1)
+
+# --- typed keys: text and selection -----------------------------------------
+kvformat_case("typing an amount" ARGS number --separators --type 1234567.89
+  STDOUT "1,234,567.89\t12..12\n" STATUS 0)
+kvformat_case("backspace" ARGS number --separators --type "1234\\b" STDOUT "123\t3..3\n" STATUS 0)
+kvformat_case("delete at home" ARGS number --separators --type "1234\\h\\d" STDOUT "234\t0..0\n" STATUS 0)
+kvformat_case("delete on a separator takes the next digit" ARGS number --separators --type "1234\\h\\>\\d"
+  STDOUT "134\t1..1\n" STATUS 0)
+kvformat_case("minus makes parentheses" ARGS number --paren-negative --type "12-" STDOUT "(12)\t3..3\n" STATUS 0)
+kvformat_case("refused digit reports and beeps" ARGS number --integers 2 --decimals 0 --type 123
+  STDOUT "12\t2..2\n" STATUS 0 STDERR_CONTAINS "status\tToo many digits. A maximum of 2 digits is allowed.\nbeep\n")
+kvformat_case("overtype toggled by insert" ARGS string --type "abc\\h\\iX" STDOUT "Xbc\t1..1\n" STATUS 0)
+kvformat_case("select all then type" ARGS string --type "abc\\sZ" STDOUT "Z\t1..1\n" STATUS 0)
+kvformat_case("control byte typed and escaped" ARGS string --type "a\\x09b\\\\" STDOUT "a\\tb\\\\\t4..4\n" STATUS 0)
+
+# --- values from standard input, one a line -----------------------------------
+kvformat_case("stdin values" ARGS number --separators STDIN "1234\n-5.5\n12a\n\n"
+  STDOUT "1,234\t1234\n-5.5\t-5.5\n12\t12\n\t\n" STATUS 0)
+kvformat_case("stdin with CRLF" ARGS string --case lower STDIN "AB\r\nCd\r\n" STDOUT "ab\tab\ncd\tcd\n" STATUS 0)
+kvformat_case("stdin keys" ARGS number --type STDIN "12\\b3\n" STDOUT "13\t2..2\n" STATUS 0)
+
+# --- usage errors: nothing on standard output, exit status 2 ------------------
+kvformat_case("no family" STDOUT "" STATUS 2 STDERR_CONTAINS "no formatter family given")
+kvformat_case("unknown family" ARGS money 1 STDOUT "" STATUS 2 STDERR_CONTAINS "unknown formatter family 'money'")
+kvformat_case("option of another family" ARGS number --max 5 1 STDOUT "" STATUS 2
+  STDERR_CONTAINS "unknown option --max for number")
+kvformat_case("missing option value" ARGS number --integers STDOUT "" STATUS 2
+  STDERR_CONTAINS "--integers needs a value (N)")
+kvformat_case("bad count" ARGS number --decimals x 1 STDOUT "" STATUS 2
+  STDERR_CONTAINS "--decimals takes a whole number from 0 to 30, not 'x'")
+kvformat_case("bad format value" ARGS number --format 0x 1 STDOUT "" STATUS 2 STDERR_CONTAINS "--format takes")
+kvformat_case("bad limit" ARGS number --upper 1e999 1 STDOUT "" STATUS 2 STDERR_CONTAINS "--upper takes a decimal number")
+kvformat_case("limit kind without limit" ARGS number --lower-kind exclusive 1 STDOUT "" STATUS 2
+  STDERR_CONTAINS "--lower-kind needs --lower")
+kvformat_case("bad case rule" ARGS string --case title x STDOUT "" STATUS 2
+  STDERR_CONTAINS "--case takes any|upper|lower, not 'title'")
+kvformat_case("switch given a value" ARGS number --round=1 1 STDOUT "" STATUS 2 STDERR_CONTAINS "--round takes no value")
+kvformat_case("two modes" ARGS number --from-raw --type 1 STDOUT "" STATUS 2 STDERR_CONTAINS "exclude each other")
+kvformat_case("unknown key" ARGS number --type "1\\q" STDOUT "" STATUS 2 STDERR_CONTAINS "unknown key \\q")
+kvformat_case("unfinished byte" ARGS string --type "\\x4" STDOUT "" STATUS 2 STDERR_CONTAINS "\\x needs two hex digits")
+
+# --- help ---------------------------------------------------------------------
+kvformat_case("help lists the families" ARGS --help STDOUT_CONTAINS "  number" STATUS 0)
+kvformat_case("family help lists its options" ARGS number --help STDOUT_CONTAINS "--paren-negative" STATUS 0)
+
+file(REMOVE "${stdin_file}")
+if(failures GREATER 0)
+  message(FATAL_ERROR "kvformat: ${failures} case(s) failed")
+endif()

@@ -1,0 +1,26 @@
+// FamilyCommand: the settings of one formatter family, collected from the
+// command line, and the formatter they describe. Each family lives in its own
+// source file (StringCommand.cpp, NumberCommand.cpp) and is listed in FamilyTable.cpp.
+#pragma once
+
+#include "FamilyOption.h"
+
+#include "formatting/kvEditFormatter.h"
+
+#include <memory>
+#include <vector>
+
+class FamilyCommand {
+public:
+    FamilyCommand() = default;
+    FamilyCommand(const FamilyCommand&) = delete;
+    FamilyCommand& operator=(const FamilyCommand&) = delete;
+    virtual ~FamilyCommand() = default;
+
+    // The options of the family; their actions store into this object, which
+    // must outlive them.
+    virtual std::vector<FamilyOption> Options() = 0;
+    // The formatter with every setting applied; throws UsageError when the
+    // settings contradict each other.
+    virtual std::unique_ptr<kvEditFormatter> MakeFormatter() const = 0;
+};
