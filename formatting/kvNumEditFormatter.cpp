@@ -34,7 +34,7 @@ void InsertChar(CString& text, int pos, char ch)
 {
     const int length = text.GetLength();
     pos = std::min(std::max(pos, 0), length);
-    char* chars = text.GetBufferSetLength(length + 1);
+    char* chars = text.GetBuffer(length + 1);
     std::memmove(chars + pos + 1, chars + pos, static_cast<size_t>(length - pos));
     chars[pos] = ch;
     text.ReleaseBuffer(length + 1);
@@ -62,19 +62,137 @@ double PowerOfTen(long long exponent)
     return exponent < 0 ? 1 / result : result;
 }
 
+// What the first pass of the raw conversion sees on its way, so that no later
+// step searches the text again.
+struct KeptDigits {
+    int length = 0;
+    int point = -1;  // the first "." kept
+    bool negative = false;
+};
+
 // Raw conversion, first pass: only digits and points survive, and zeros before
-// the first of them.
-void KeepDigitsAndPoints(CString& text)
+// the first of them. Any "(", ")" or "-" makes the number negative, but only
+// before a NUL: the sign search stops there, as FindOneOf does.
+KeptDigits KeepDigitsAndPoints(char* chars, int length)
 {
-    const int length = text.GetLength();
-    char* chars = text.GetBuffer();
-    int kept = 0;
+    KeptDigits kept;
+    bool afterNul = false;
     for (int i = 0; i < length; ++i) {
         const char ch = chars[i];
-        if ((IsDigitChar(ch) || ch == '.') && !(ch == '0' && kept == 0))
-            chars[kept++] = ch;
+        if (IsDigitChar(ch)) {
+            if (ch != '0' || kept.length > 0)
+                chars[kept.length++] = ch;
+        } else if (ch == '.') {
+            if (kept.point < 0)
+                kept.point = kept.length;
+            chars[kept.length++] = ch;
+        } else if (ch == '\0') {
+            afterNul = true;
+        } else if ((ch == '(' || ch == ')' || ch == '-') && !afterNul) {
+            kept.negative = true;
+        }
     }
-    text.ReleaseBuffer(kept);
+    return kept;
+}
+
+// The length of a text that holds a point once its trailing zeros are gone,
+// and then the point too when it is last and not kept.
+int LengthWithoutTrailingZeros(const char* chars, int length, bool keepPoint)
+{
+    while (length > 0 && chars[length - 1] == '0')
+        --length;
+    if (!keepPoint && length > 0 && chars[length - 1] == '.')
+        --length;
+    return length;
+}
+
+// The index of the first point (or the length) of a raw form: an optional
+// "-" in front, then digits and points only; -1 for any other text.
+int RawFormPoint(const CString& text)
+{
+    const char* chars = text.GetString();
+    const int length = text.GetLength();
+    int point = length;
+    for (int i = chars[0] == '-' ? 1 : 0; i < length; ++i) {
+        if (IsDigitChar(chars[i]))
+            continue;
+        if (chars[i] != '.')
+            return -1;
+        point = std::min(point, i);
+    }
+    return point;
+}
+
+// A comma goes at every third position left of point where a digit stands
+// before it. Inserted one at a time from the right, each comma would move the
+// rest of the text again; here the text grows once and every character moves
+// once, right to left. A comma at q moves start and end when they are at q or
+// beyond, as AddStr does.
+void InsertCommas(CString& text, int& start, int& end, int point)
+{
+    const int length = text.GetLength();
+    int commas = 0;
+    for (int q = point - 3; q >= 1; q -= 3)
+        commas += IsDigitChar(text.GetString()[q - 1]) ? 1 : 0;
+    if (commas == 0)
+        return;
+
+    char* chars = text.GetBuffer(length + commas);
+    int from = length, to = length + commas;
+    const int oldStart = start, oldEnd = end;
+    for (int q = point - 3; to > from; q -= 3) {
+        if (!IsDigitChar(chars[q - 1]))
+            continue;
+        to -= from - q;
+        std::memmove(chars + to, chars + q, static_cast<size_t>(from - q));
+        from = q;
+        chars[--to] = ',';
+        start += oldStart >= q ? 1 : 0;
+        end += oldEnd >= q ? 1 : 0;
+    }
+    text.ReleaseBuffer(length + commas);
+}
+
+// The documented rule reads the cut text as a double, adds 10 to the power
+// -decimals and prints the sum with `decimals` digits. Up to 15 digits in all,
+// each of the three rounding steps errs by at most 2^-53 of its result, so the
+// sum is off by less than 2^-52 (N+1) / 10^decimals for the N+1 the digits
+// spell: under half a unit of the last place for N+1 <= 10^15 (0.23 units at
+// most). The print is therefore exact, and the carry gives the same text; the
+// overflow boundary (all nines) agrees too, which a test checks for every
+// width. A second point inside the fraction would end the double's reading
+// early, so that text keeps the double route, as do wider fields, where the
+// double's 53 bits decide.
+bool RoundsExactlyOnDigits(const char* cut, int point, unsigned int integers, unsigned int decimals)
+{
+    constexpr unsigned long long kExactDigits = 15;
+    if (static_cast<unsigned long long>(integers) + decimals > kExactDigits)
+        return false;
+    const char* fraction = cut + point + 1;
+    return std::find(fraction, fraction + decimals, '.') == fraction + decimals;
+}
+
+// One more in the last place of the cut text ("digits.digits", no leading
+// zeros): nines become zeros up to the first other digit, which grows by one.
+// Past the first digit the carry needs another integer digit, one more
+// character, for which the cut surplus left room. False, and nothing changed,
+// when the field has no integer digit to spare: the text then stays cut.
+bool CarryUp(char* cut, int& length, int point, unsigned int integers)
+{
+    int carry = length - 1;
+    while (carry >= 0 && (cut[carry] == '9' || cut[carry] == '.'))
+        --carry;
+    if (carry < 0 && static_cast<unsigned int>(point) >= integers)
+        return false;
+    std::replace(cut + carry + 1, cut + length, '9', '0');
+    if (carry >= 0) {
+        ++cut[carry];
+        return true;
+    }
+    std::memmove(cut + 1, cut, static_cast<size_t>(length));
+    cut[0] = '1';
+    ++length;
+    return true;
 }
 
 // Puts the sign back and reports the characters from..to of the unsigned text.
@@ -206,12 +324,10 @@ void kvNumEditFormatter::AddCommas(CString& text, int& start, int& end) const
 {
     if (!(m_nFormat & Separators))
         return;
-    int p = text.Find('.');
-    if (p < 0)
-        p = text.GetLength() - (text.Find(')') >= 0 ? 1 : 0);
-    for (p -= 3; p >= 1; p -= 3)
-        if (IsDigitChar(text[p - 1]))
-            AddStr(text, start, end, p, ',');
+    int point = text.Find('.');
+    if (point < 0)
+        point = text.GetLength() - (text.Find(')') >= 0 ? 1 : 0);
+    InsertCommas(text, start, end, point);
 }
 
 void kvNumEditFormatter::SetPositive(CString& text, int& start, int& end) const
@@ -263,13 +379,10 @@ void kvNumEditFormatter::StripTrailingZeros(CString& text) const
 {
     if (text.Find('.') < 0)
         return;
-    int length = text.GetLength();
-    while (text[length - 1] == '0')
-        --length;
-    if (!(m_nFormat & ImpliedDecimal) && text[length - 1] == '.')
-        --length;
-    text.Delete(length, text.GetLength());
-    if (text == "-")
+    const int length = LengthWithoutTrailingZeros(text.GetString(), text.GetLength(), m_nFormat & ImpliedDecimal);
+    text.Delete(length, text.GetLength() - length);
+    // A lone "-" goes too; like a comparison with "-", this reads up to a NUL.
+    if (text[0] == '-' && text[1] == '\0')
         text.Empty();
 }
 
@@ -440,14 +553,18 @@ void kvNumEditFormatter::_PadDecimals(CString& text) const
 
 bool kvNumEditFormatter::RawData(CString& text, kvEditFormatterError* err) const
 {
-    const bool negative = text.FindOneOf("()-") >= 0;
-    KeepDigitsAndPoints(text);
-    StripTrailingZeros(text);
-    int dot = text.Find('.');
-    if ((m_nFormat & ImpliedDecimal) && !text.IsEmpty() && dot < 0) {
-        _InsertImpliedPoint(text);
-        dot = text.Find('.');
+    const KeptDigits kept = KeepDigitsAndPoints(text.GetBuffer(), text.GetLength());
+    const bool negative = kept.negative;
+    int dot = kept.point;
+    int length = kept.length;
+    if (dot >= 0) {
+        length = LengthWithoutTrailingZeros(text.GetString(), length, m_nFormat & ImpliedDecimal);
+        if (dot == length)  // the point was last and went as well
+            dot = -1;
     }
+    text.ReleaseBuffer(length);
+    if ((m_nFormat & ImpliedDecimal) && !text.IsEmpty() && dot < 0)
+        dot = _InsertImpliedPoint(text);
     const int point = dot >= 0 ? dot : text.GetLength();
     if (static_cast<unsigned int>(point) > m_nIntegers)
         return RefuseDigits(text, negative, 0, point, m_nDecimals > 0 ? kTooManyIntegers : kTooManyDigits,
@@ -456,44 +573,56 @@ bool kvNumEditFormatter::RawData(CString& text, kvEditFormatterError* err) const
     if (fraction > m_nDecimals) {
         if (!(m_nFormat & RoundDecimals))
             return RefuseDigits(text, negative, point + 1, text.GetLength(), kTooManyDecimals, m_nDecimals, err);
-        if (text[point + 1 + static_cast<int>(m_nDecimals)] >= '5')
-            return _RoundDecimals(text, point, negative);
-        text.Delete(point + 1 + static_cast<int>(m_nDecimals), text.GetLength());
-        StripLeadingZeros(text);
-        StripTrailingZeros(text);
+        _RoundDecimals(text, point);
     }
     if (negative && !text.IsEmpty())
         InsertChar(text, 0, '-');
     return true;
 }
 
-// The last `decimals` digits become the fraction.
-void kvNumEditFormatter::_InsertImpliedPoint(CString& text) const
+// The last `decimals` digits become the fraction; returns the index of the point.
+int kvNumEditFormatter::_InsertImpliedPoint(CString& text) const
 {
     const long long missing = static_cast<long long>(m_nDecimals) - text.GetLength();
     if (missing <= 0) {
-        InsertChar(text, text.GetLength() - static_cast<int>(m_nDecimals), '.');
-        return;
+        const int point = text.GetLength() - static_cast<int>(m_nDecimals);
+        InsertChar(text, point, '.');
+        return point;
     }
     text.Insert(0, CString('0', static_cast<int>(missing)));
     InsertChar(text, 0, '.');
+    return 0;
 }
 
-// Half up, away from zero; when that would need another integer digit the
-// surplus is cut instead.
-bool kvNumEditFormatter::_RoundDecimals(CString& text, int point, bool negative) const
+// Half up, away from zero, on the unsigned text, whose sign goes in front
+// afterwards: the value moves the same way on either side of zero. The text
+// has no leading zeros, and cutting it adds none.
+void kvNumEditFormatter::_RoundDecimals(CString& text, int point) const
 {
-    text.Delete(point + 1 + static_cast<int>(m_nDecimals), text.GetLength());
-    if (negative)
-        InsertChar(text, 0, '-');
-    const double step = PowerOfTen(-static_cast<long long>(m_nDecimals));
-    const double value = DoubleValue(text) + (negative ? -step : step);
-    const double bound = PowerOfTen(m_nIntegers);
-    if (-bound < value && value < bound)
+    const int cut = point + 1 + static_cast<int>(m_nDecimals);
+    char* chars = text.GetBuffer();
+    const bool up = chars[cut] >= '5';
+    if (up && !RoundsExactlyOnDigits(chars, point, m_nIntegers, m_nDecimals)) {
+        text.ReleaseBuffer(cut);
+        _StepUpAsDouble(text);
+        StripTrailingZeros(text);
+        return;
+    }
+    int length = cut;
+    if (up && CarryUp(chars, length, point, m_nIntegers) && m_nDecimals == 0)
+        --length;  // a whole number is printed without a point
+    else
+        length = LengthWithoutTrailingZeros(chars, length, m_nFormat & ImpliedDecimal);
+    text.ReleaseBuffer(length);
+}
+
+// The documented route, kept where only it gives the documented result.
+void kvNumEditFormatter::_StepUpAsDouble(CString& text) const
+{
+    const double value = DoubleValue(text) + PowerOfTen(-static_cast<long long>(m_nDecimals));
+    if (value < PowerOfTen(m_nIntegers))
         text = FormatValue(value);
     StripLeadingZeros(text);
-    StripTrailingZeros(text);
-    return true;
 }
 
 bool kvNumEditFormatter::IsValid(CString& text, kvEditFormatterError* err) const
@@ -507,24 +636,41 @@ bool kvNumEditFormatter::IsValid(CString& text, kvEditFormatterError* err) const
             err->selection = kvPackSel(start, end);
         return false;
     }
-    const bool within = _WithinLimits(text, err);
+    // Without limits the value is never read.
+    const bool within = !_HasLimits() || _WithinLimits(text, err);
     int start = 0, end = 0;
     _ToDisplayForm(text, start, end);
     return within;
 }
 
+// SetNegative and AddCommas. A raw form (what RawData gives, unless a derived
+// formatter makes it give something else) is done in one pass: its only sign
+// is the "-" in front, which the display sign replaces (a selection at 0
+// moves behind it), and its integer digits run to the first point or the end.
 void kvNumEditFormatter::_ToDisplayForm(CString& text, int& start, int& end) const
 {
-    if (text[0] == '-')
-        SetNegative(text, start, end);
-    AddCommas(text, start, end);
+    const int point = RawFormPoint(text);
+    if (point < 0) {
+        if (text[0] == '-')
+            SetNegative(text, start, end);
+        AddCommas(text, start, end);
+        return;
+    }
+    if (text[0] == '-') {
+        if (m_nFormat & ParenNegative) {
+            text.SetAt(0, '(');
+            text += ')';
+        }
+        start = std::max(start, 1);
+        end = std::max(end, 1);
+    }
+    if (m_nFormat & Separators)
+        InsertCommas(text, start, end, point);
 }
 
-// The upper limit is tested first. Without limits the value is never read.
+// The upper limit is tested first.
 bool kvNumEditFormatter::_WithinLimits(const CString& raw, kvEditFormatterError* err) const
 {
-    if (m_UpperLimitType == NoUpperLimit && m_LowerLimitType == NoLowerLimit)
-        return true;
     const double value = DoubleValue(raw);
     if (m_UpperLimitType == UpperExclusive && value >= m_dUpperLimit)
         return RefuseLimit("Value must be less than %s.", FormatValue(m_dUpperLimit), err);

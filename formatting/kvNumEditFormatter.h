@@ -85,9 +85,11 @@ private:
     bool _TooManyDigits(const CString& text) const;
     void _ReportTooManyDigits() const;
 
-    void _InsertImpliedPoint(CString& text) const;
-    bool _RoundDecimals(CString& text, int point, bool negative) const;
+    int _InsertImpliedPoint(CString& text) const;
+    void _RoundDecimals(CString& text, int point) const;
+    void _StepUpAsDouble(CString& text) const;
     void _ToDisplayForm(CString& text, int& start, int& end) const;
+    bool _HasLimits() const { return m_UpperLimitType != NoUpperLimit || m_LowerLimitType != NoLowerLimit; }
     bool _WithinLimits(const CString& raw, kvEditFormatterError* err) const;
     void _PadDecimals(CString& text) const;
 

@@ -124,9 +124,9 @@ TEST(NumEditTyping, RefusedKeysBeep)
         const NF f(row.integers, row.decimals, NF::Separators);
         EXPECT_FALSE(f.DoChar(field.text, field.sel, false, row.key, 1, 0));
         EXPECT_EQ(ShowField(field.text, field.sel), row.expected);
-        if (!StatusRecorder::CanObserve())
-            continue;
-        EXPECT_EQ(status.beeps, row.message ? 1 : 0);
+        if (StatusRecorder::CanObserveBeeps()) {
+            EXPECT_EQ(status.beeps, row.message ? 1 : 0);
+        }
         const bool explained = row.message && *row.message;
         EXPECT_EQ(status.messages, explained ? std::vector<std::string>{row.message} : std::vector<std::string>{});
     }

@@ -1,6 +1,9 @@
-// StatusRecorder: stands in for the application's main window while a text test
-// runs: records the status messages and beeps a formatter sends, and answers
-// the queries (presets, date order) the way an application configured to do so would.
+// StatusRecorder: stands in for the application's main window while a test
+// runs: records the status messages and beeps a formatter or control sends, and
+// answers the queries (presets, date order, overtype state) the way an
+// application configured to do so would. On Windows it is a real main window
+// (a hidden frame set as the thread object's main window); on the host it is
+// the seam's receiver.
 #pragma once
 
 #include "formatting/kvMessages.h"
@@ -8,8 +11,11 @@
 #include "formatting/kvWinAMCtrlValidateInfo.h"
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
+
+class CWnd;
 
 class StatusRecorder {
 public:
@@ -18,18 +24,33 @@ public:
     StatusRecorder(const StatusRecorder&) = delete;
     StatusRecorder& operator=(const StatusRecorder&) = delete;
 
-    // Whether this platform lets a test see what the formatter sent. On Windows
-    // status messages need the framework's main window and beeps cannot be seen.
-    static bool CanObserve();
+    // Whether a test can see what was sent: status messages on every platform;
+    // beeps only on the host (Windows plays them).
+    static bool CanObserveMessages();
+    static bool CanObserveBeeps();
+    // Both messages and beeps.
+    static bool CanObserve() { return CanObserveMessages() && CanObserveBeeps(); }
 
     // Answer for a query (wParam 1) with the given lParam; unanswered queries give 0.
     void Answer(LPARAM query, LRESULT result) { m_answers[query] = result; }
 
+    // The main window that receives the status message (null on the host).
+    CWnd* MainWindow() const;
+
     std::vector<std::string> messages;  // shown messages, in order
+    int clears = 0;                     // "clear the message" requests
     int beeps = 0;
     std::vector<LPARAM> queries;
+    bool overtype = false;              // kept across get and set requests
+
+    // Handles one status message as the main window would.
+    LRESULT Receive(WPARAM wParam, LPARAM lParam);
 
 private:
-    LRESULT Receive(WPARAM wParam, LPARAM lParam);
     std::map<LPARAM, LRESULT> m_answers;
+#if defined(_WIN32)
+    class Frame;
+    Frame* m_pFrame = nullptr;  // deletes itself when destroyed
+    CWnd* m_pPreviousMainWnd = nullptr;
+#endif
 };

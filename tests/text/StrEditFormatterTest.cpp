@@ -51,11 +51,11 @@ TEST(StrEditFormatter, Typing)
         StatusRecorder status;
         const kvStrEditFormatter f(row.maxLen, 0, row.format);
         EXPECT_EQ(TypeKeys(f, row.start, row.keys, row.overtype), row.expected);
-        if (StatusRecorder::CanObserve() && row.refused) {
+        if (StatusRecorder::CanObserveMessages() && row.refused) {
             ASSERT_EQ(status.messages.size(), 1u);
             EXPECT_EQ(status.messages[0], "Too many characters. A maximum of " + std::to_string(row.maxLen) +
                                               " characters is allowed.");
-        } else if (StatusRecorder::CanObserve()) {
+        } else if (StatusRecorder::CanObserveMessages()) {
             EXPECT_TRUE(status.messages.empty());
         }
     }
