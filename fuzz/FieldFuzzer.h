@@ -1,12 +1,17 @@
 // FieldFuzzer: plays a random editing session on one formatter, the way a
-// formatted edit field drives it, and stops the run at the first broken
-// invariant:
-// - a handled key leaves start <= end <= length;
+// formatted edit field drives it (typed keys of every byte value, backspace,
+// key-downs, selections, overtype, text set from outside, validation and raw
+// conversion), and stops the run at the first broken invariant:
+// - DoChar handles every character and leaves start <= end <= length; a
+//   key-down left to the edit touches neither text nor selection;
 // - IsValid gives the same verdict and text with and without an error record,
 //   and a refused text's error selection lies inside that text;
-// - accepted text is accepted again, unchanged unless the family knows why
-//   its validation needs more than one pass for that input; its RawData
-//   succeeds, and FormatRawData of that raw form gives valid display text.
+// - accepted text is accepted again, unchanged; its RawData succeeds, and
+//   FormatRawData of that raw form gives valid display text;
+// - RawData and FormatRawData survive any text, and a RawData refusal selects
+//   characters of the text.
+// A family switches off, for the texts concerned, the promises its formatter
+// breaks on purpose, and adds checks of its own.
 #pragma once
 
 #include "FuzzInput.h"
@@ -20,15 +25,27 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <utility>
 
 using TextCheck = std::function<void(const CString& text)>;
+using TextTest = std::function<bool(const CString& text)>;
 
-// What a family adds to the common checks.
 struct FamilyChecks {
     TextCheck onText;      // the field's text after every step
     TextCheck onAccepted;  // every text IsValid accepted
-    // Whether IsValid normalises this input in one pass; by default every input.
-    std::function<bool(const CString& input)> settlesAtOnce;
+
+    // The common promises a family breaks on purpose, each as a test of the
+    // text concerned: false where the promise does not hold. Empty: it holds
+    // for every text.
+    // Of a text validated: IsValid decides the same with and without a record.
+    TextTest sameVerdictWithoutRecord;
+    // Of an accepted text: it is accepted again; one that is not is a text no
+    // field keeps, and is checked no further.
+    TextTest staysAccepted;
+    // Of a text validated: validation normalises it in one pass.
+    TextTest settlesAtOnce;
+    // Of an accepted text: FormatRawData takes its raw form back.
+    TextTest rawReadsBack;
 };
 
 class FieldFuzzer {
@@ -61,6 +78,15 @@ public:
 private:
     static constexpr int kLongestText = 400;
 
+    // One IsValid call: its verdict, the text it left and its error record.
+    struct Verdict {
+        bool valid = false;
+        CString text;
+        kvEditFormatterError err;
+    };
+
+    static bool Holds(const TextTest& promise, const CString& text) { return !promise || promise(text); }
+
     void Step()
     {
         switch (m_in.Below(10)) {
@@ -70,7 +96,7 @@ private:
         case 5: Select(); break;
         case 6: m_overtype = !m_overtype; break;
         case 7: Validate(); break;
-        case 8: ConvertToRaw(); break;
+        case 8: ConvertRaw(); break;
         case 9: SetText(); break;
         }
     }
@@ -78,7 +104,7 @@ private:
     // Mostly the characters formatters care about, and any byte at all.
     unsigned int TypedKey()
     {
-        static const char kTypical[] = "0123456789.,-+() aZz";
+        static const char kTypical[] = "0123456789.,-+()/: aZz";
         return m_in.Flag() ? static_cast<unsigned char>(kTypical[m_in.Below(sizeof kTypical - 1)]) : m_in.Byte();
     }
 
@@ -87,17 +113,11 @@ private:
         Require(kvSelStart(sel) <= kvSelEnd(sel) && kvSelEnd(sel) <= text.GetLength(), what, text);
     }
 
-    // A host ignores text and selection of a key it handles natively.
-    template <typename Press>
-    void Handle(Press press, const char* what)
+    void Take(const CString& text, unsigned long sel, const char* what)
     {
-        CString text(m_text);
-        unsigned long sel = m_sel;
-        if (!press(text, sel)) {
-            RequireSelectionInside(text, sel, what);
-            m_text = text;
-            m_sel = sel;
-        }
+        RequireSelectionInside(text, sel, what);
+        m_text = text;
+        m_sel = sel;
     }
 
     // A NUL never reaches a formatter: a window's text cannot hold one.
@@ -105,15 +125,21 @@ private:
     {
         if (key == 0 || m_text.GetLength() >= kLongestText)
             return;
-        const unsigned int repeat = m_in.Byte();
-        Handle([&](CString& text, unsigned long& sel) { return m_f.DoChar(text, sel, m_overtype, key, repeat, 0); },
-               "selection after DoChar");
+        CString text(m_text);
+        unsigned long sel = m_sel;
+        Require(!m_f.DoChar(text, sel, m_overtype, key, m_in.Byte(), 0), "DoChar left a character to the edit", m_text);
+        Take(text, sel, "selection after DoChar");
     }
 
     void PressKeyDown(unsigned int key)
     {
-        Handle([&](CString& text, unsigned long& sel) { return m_f.DoKeyDown(text, sel, m_overtype, key, 1, 0); },
-               "selection after DoKeyDown");
+        CString text(m_text);
+        unsigned long sel = m_sel;
+        if (m_f.DoKeyDown(text, sel, m_overtype, key, 1, 0)) {
+            Require(text == m_text && sel == m_sel, "a key-down left to the edit changed the field", m_text);
+            return;
+        }
+        Take(text, sel, "selection after DoKeyDown");
     }
 
     void Select()
@@ -124,58 +150,84 @@ private:
         m_sel = kvPackSel(start, end);
     }
 
+    Verdict Judge(bool withRecord) const
+    {
+        Verdict verdict;
+        verdict.text = m_text;
+        verdict.valid = m_f.IsValid(verdict.text, withRecord ? &verdict.err : nullptr);
+        return verdict;
+    }
+
     void Validate()
     {
-        CString text(m_text);
-        kvEditFormatterError err;
-        const bool valid = m_f.IsValid(text, &err);
-        CString quiet(m_text);
-        Require(m_f.IsValid(quiet, nullptr) == valid && quiet == text, "IsValid differs without an error record", m_text);
-        if (!valid) {
-            RequireSelectionInside(text, err.selection, "error selection outside the text");
-        } else {
-            CheckAccepted(m_text, text);
-        }
-        if (!m_in.Flag())
-            return;
+        const Verdict recorded = Judge(true);
+        const Verdict quiet = Judge(false);
+        const bool sameVerdict = quiet.valid == recorded.valid && quiet.text == recorded.text;
+        Require(sameVerdict || !Holds(m_checks.sameVerdictWithoutRecord, m_text),
+                "IsValid differs without an error record", m_text);
+        if (recorded.valid)
+            CheckAccepted(m_text, recorded.text);
+        else
+            RequireSelectionInside(recorded.text, recorded.err.selection, "error selection outside the text");
+        if (quiet.valid && !sameVerdict)
+            CheckAccepted(m_text, quiet.text);
+
         // As the host does: the field shows the normalised text; a refused
-        // one with the faulty characters selected, an accepted one after
-        // DoExitField.
-        m_text = text;
-        if (valid)
+        // one with the faulty characters selected where a record says which,
+        // an accepted one after DoExitField.
+        switch (m_in.Below(3)) {
+        case 1: Show(recorded); break;
+        case 2: Show(quiet); break;
+        default: break;
+        }
+    }
+
+    void Show(const Verdict& verdict)
+    {
+        m_text = verdict.text;
+        if (verdict.valid)
             m_f.DoExitField(m_text, m_sel);
         else
-            m_sel = err.selection;
+            m_sel = verdict.err.selection;
         ClampSelection();
     }
 
     void CheckAccepted(const CString& input, const CString& accepted)
     {
+        if (!Holds(m_checks.staysAccepted, accepted))
+            return;
         CString again(accepted);
         Require(m_f.IsValid(again, nullptr), "accepted text not accepted again", accepted);
-        const bool settles = !m_checks.settlesAtOnce || m_checks.settlesAtOnce(input);
-        Require(again == accepted || !settles, "accepted text changed by validation", accepted);
+        Require(again == accepted || !Holds(m_checks.settlesAtOnce, input), "accepted text changed by validation",
+                accepted);
         CString raw(accepted);
         kvEditFormatterError err;
         Require(m_f.RawData(raw, &err), "RawData of accepted text failed", accepted);
-        CString display(raw);
-        Require(m_f.FormatRawData(display), "FormatRawData of a raw form failed", raw);
-        CString redisplayed(display);
-        Require(m_f.IsValid(redisplayed, nullptr), "FormatRawData gave invalid text", display);
+        if (Holds(m_checks.rawReadsBack, accepted)) {
+            CString display(raw);
+            Require(m_f.FormatRawData(display), "FormatRawData of a raw form failed", raw);
+            CString redisplayed(display);
+            Require(m_f.IsValid(redisplayed, nullptr), "FormatRawData gave invalid text", display);
+        }
         if (m_checks.onAccepted)
             m_checks.onAccepted(accepted);
     }
 
-    void ConvertToRaw()
+    // The field's text stored, and read as a stored value: either may fail,
+    // neither may misbehave.
+    void ConvertRaw()
     {
         CString raw(m_text);
         kvEditFormatterError err;
-        if (!m_f.RawData(raw, &err)) {
+        const bool withRecord = m_in.Flag();
+        if (m_f.RawData(raw, withRecord ? &err : nullptr)) {
+            CString display(raw);
+            m_f.FormatRawData(display);
+        } else if (withRecord) {
             RequireSelectionInside(raw, err.selection, "RawData error selection outside the text");
-            return;
         }
-        CString display(raw);
-        m_f.FormatRawData(display);
+        CString shown(m_text);
+        m_f.FormatRawData(shown);
     }
 
     // Text from outside: pasted, set by the program, typed before any formatter.

@@ -1,7 +1,6 @@
 // Date formatter under random editing: any format value (the requests and
 // values of no kind included), any answer to the date-order query.
 #include "FieldFuzzer.h"
-#include "FormatterFuzzSession.h"
 
 #include "formatting/kvDateEditFormatter.h"
 
@@ -24,6 +23,9 @@ bool StaysAccepted(const Date& f, const CString& accepted)
     return f.GetFormat() != Date::YearOnly || accepted.IsEmpty() || accepted.GetLength() >= 4;
 }
 
+// The empty field stores "00000000", which shows as a date of zeros.
+bool RawReadsBack(const CString& accepted) { return !accepted.IsEmpty(); }
+
 // Month-day and month-year texts pad differently from FormatData; every other
 // kind shows a date the way validation rewrites it.
 bool ShowsAsValidated(Date::DateFormat format)
@@ -36,31 +38,32 @@ void CheckRawRoundTrip(const Date& f, const CString& accepted)
 {
     if (accepted.IsEmpty())
         return;
+    // The common checks have seen RawData of an accepted text succeed.
     kvEditFormatterError err;
     CString raw(accepted);
-    Require(f.RawData(raw, &err), "an accepted date has a raw form");
-    Require(raw.GetLength() == 8 && IsAllDigits(raw), "the raw form is MMDDYYYY");
+    f.RawData(raw, &err);
+    FieldFuzzer::Require(raw.GetLength() == 8 && IsAllDigits(raw), "the raw form is not MMDDYYYY", raw);
     CString shown(raw);
-    Require(f.FormatRawData(shown), "a raw form converts back");
+    f.FormatRawData(shown);
     if (ShowsAsValidated(f.GetFormat()))
-        Require(shown == accepted, "the raw form shows as the accepted text");
+        FieldFuzzer::Require(shown == accepted, "the raw form shows otherwise than the accepted text", accepted);
     CString rawAgain(shown);
-    Require(f.RawData(rawAgain, nullptr) && rawAgain == raw, "raw, shown and raw again is the same date");
+    FieldFuzzer::Require(f.RawData(rawAgain, nullptr) && rawAgain == raw, "raw, shown and raw again differ", shown);
 }
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FuzzInput in(data, size);
     // Every format, the requests, and values beyond both ends of the table.
     const auto format = static_cast<Date::DateFormat>(static_cast<int>(in.Below(22)) - 2);
     QuietStatus(in.Below(8));
     const Date f(format);
-
-    SessionChecks checks;
+    FamilyChecks checks;
     checks.staysAccepted = [&f](const CString& accepted) { return StaysAccepted(f, accepted); };
-    checks.checkRawRoundTrip = [&f](const CString& accepted) { CheckRawRoundTrip(f, accepted); };
-    RunEditingSession(f, in, checks);
+    checks.rawReadsBack = RawReadsBack;
+    checks.onAccepted = [&f](const CString& accepted) { CheckRawRoundTrip(f, accepted); };
+    FieldFuzzer(f, in, checks).Run();
     return 0;
 }

@@ -80,6 +80,18 @@ kvformat_case("limit given inline" ARGS number --lower=5 --upper=10 --upper-kind
 kvformat_case("string trimmed and upper-cased" ARGS string --max 5 --min 2 --case upper " abc "
   STDOUT "ABC\tABC\n" STATUS 0)
 
+kvformat_case("date widened and padded" ARGS date 1524 7-4-76
+  STDOUT "1/05/2024\t01052024\n7/04/1976\t07041976\n" STATUS 0)
+kvformat_case("date format by name" ARGS date --format DayMonthYearSlash 311224
+  STDOUT "31/12/2024\t12312024\n" STATUS 0)
+kvformat_case("date format by number" ARGS date --format 15 124 STDOUT "01/2024\t01002024\n" STATUS 0)
+kvformat_case("clock time, letters and surplus seconds dropped" ARGS time 930 9a30 12:30:45
+  STDOUT "9:30\t0930\n9:30\t0930\n12:30\t1230\n" STATUS 0)
+kvformat_case("time with seconds" ARGS time --format ClockHourMinuteSecond 93015 STDOUT "9:30:15\t093015\n" STATUS 0)
+kvformat_case("elapsed hours beyond a day" ARGS time --format 1 99:59 STDOUT "99:59\t9959\n" STATUS 0)
+kvformat_case("identification numbers hyphenated" ARGS ssn 123456789 AB1234567 123-45-6789
+  STDOUT "123-45-6789\t123456789\nAB1-23-4567\tAB1234567\n123-45-6789\t123456789\n" STATUS 0)
+
 # --- invalid values: message, selection of the faulty characters, text -------
 kvformat_case("too many integer digits, sign not selected" ARGS number --integers 3 -12345.6
   STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t1..6\t-12345.6\n"
@@ -104,6 +116,21 @@ kvformat_case("string too short" ARGS string --min 2 --case upper " a "
 kvformat_case("string too long" ARGS string --max 3 abcdef
   STDOUT "error\tToo many characters. A maximum of 3 characters is allowed.\t3..6\tabcdef\n" STATUS 1)
 
+kvformat_case("no such day" ARGS date 2/30/24
+  STDOUT "error\t'30' is not a valid day for February.\t2..4\t2/30/2024\n" STATUS 1)
+kvformat_case("one separator in a full date" ARGS date 1/1 STDOUT "error\tNot enough separators.\t3..3\t1/1\n" STATUS 1)
+kvformat_case("year 0150 accepted but not stored" ARGS date --format YearOnly 0150
+  STDOUT "error\tYear format must be YY or YYYY.\t0..3\t150\n" STATUS 1)
+kvformat_case("hour past 23" ARGS time 2400 STDOUT "error\tInvalid hour.\t0..2\t24:00\n" STATUS 1)
+kvformat_case("minutes selected up to the seconds" ARGS time --format 2 9:75
+  STDOUT "error\tInvalid minutes.\t2..4\t9:75:00\n" STATUS 1)
+kvformat_case("five digits do not split into a time" ARGS time 93015
+  STDOUT "error\tInvalid time.\t0..5\t93015\n" STATUS 1)
+kvformat_case("short number not padded" ARGS ssn 12345
+  STDOUT "error\tNot enough digits. There must be 9 digits.\t0..5\t12345\n" STATUS 1)
+kvformat_case("long number" ARGS ssn 1234567890
+  STDOUT "error\tToo many digits. There must be 9 digits.\t0..10\t1234567890\n" STATUS 1)
+
 # --- raw values shown ---------------------------------------------------------
 kvformat_case("raw to display" ARGS number --separators --from-raw 1234567.5
   STDOUT "1,234,567.5\t1234567.5\n" STATUS 0)
@@ -112,6 +139,19 @@ kvformat_case("raw negative in parentheses" ARGS number --from-raw --paren-negat
 kvformat_case("raw too wide" ARGS number --integers 3 --from-raw 12345
   STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t0..5\t12345\n"
   STATUS 1)
+
+kvformat_case("raw date shown unchecked, checked when stored" ARGS date --from-raw 12252023 13452024
+  STDOUT "12/25/2023\t12252023\nerror\t'13' is not a valid month.\t0..2\t13/45/2024\n" STATUS 1)
+kvformat_case("raw date of the wrong length" ARGS date --from-raw 2024
+  STDOUT "error\tA raw date has eight digits, MMDDYYYY.\t0..4\t2024\n" STATUS 1)
+kvformat_case("raw time seconds ignored" ARGS time --format ElapsedHourMinute --from-raw 093000
+  STDOUT "9:30\t0930\n" STATUS 0)
+kvformat_case("raw time without seconds" ARGS time --from-raw 0930
+  STDOUT "error\tA raw time has six digits, HHMMSS.\t0..4\t0930\n" STATUS 1)
+kvformat_case("raw time out of range" ARGS time --from-raw 129900
+  STDOUT "error\tInvalid minutes.\t3..5\t12:99\n" STATUS 1)
+kvformat_case("raw number" ARGS ssn --from-raw 123456789 12345
+  STDOUT "123-45-6789\t123456789\nerror\tNot enough digits. There must be 9 digits.\t0..5\t12345\n" STATUS 1)
 
 # --- typed keys: text and selection -----------------------------------------
 kvformat_case("typing an amount" ARGS number --separators --type 1234567.89
@@ -127,11 +167,26 @@ kvformat_case("overtype toggled by insert" ARGS string --type "abc\\h\\iX" STDOU
 kvformat_case("select all then type" ARGS string --type "abc\\sZ" STDOUT "Z\t1..1\n" STATUS 0)
 kvformat_case("control byte typed and escaped" ARGS string --type "a\\x09b\\\\" STDOUT "a\\tb\\\\\t4..4\n" STATUS 0)
 
+kvformat_case("typed date left as typed" ARGS date --type 12252023 STDOUT "12252023\t8..8\n" STATUS 0)
+kvformat_case("eleventh date character beeps" ARGS date --type "12/25/20245" STDOUT "12/25/2024\t10..10\n" STATUS 0
+  STDERR_CONTAINS "beep")
+kvformat_case("year takes no separator" ARGS date --format YearOnly --type "20-24" STDOUT "2024\t4..4\n" STATUS 0
+  STDERR_CONTAINS "beep")
+kvformat_case("full time still takes its colon" ARGS time --type "12345:" STDOUT "1234:\t5..5\n" STATUS 0
+  STDERR_CONTAINS "beep")
+kvformat_case("space and full stop type hyphens, a third beeps" ARGS ssn --type "123.45 6789-0"
+  STDOUT "123-45-6789\t11..11\n" STATUS 0 STDERR_CONTAINS "beep")
+
 # --- values from standard input, one a line -----------------------------------
 kvformat_case("stdin values" ARGS number --separators STDIN "1234\n-5.5\n12a\n\n"
   STDOUT "1,234\t1234\n-5.5\t-5.5\n12\t12\n\t\n" STATUS 0)
 kvformat_case("stdin with CRLF" ARGS string --case lower STDIN "AB\r\nCd\r\n" STDOUT "ab\tab\ncd\tcd\n" STATUS 0)
 kvformat_case("stdin keys" ARGS number --type STDIN "12\\b3\n" STDOUT "13\t2..2\n" STATUS 0)
+
+kvformat_case("empty date stored as zeros" ARGS date STDIN "\n" STDOUT "\t00000000\n" STATUS 0)
+kvformat_case("empty time stored as 00" ARGS time STDIN "\n930\n" STDOUT "\t00\n9:30\t0930\n" STATUS 0)
+kvformat_case("stdin numbers with CRLF" ARGS ssn STDIN "123456789\r\n\n"
+  STDOUT "123-45-6789\t123456789\n\t\n" STATUS 0)
 
 # --- usage errors: nothing on standard output, exit status 2 ------------------
 kvformat_case("no family" STDOUT "" STATUS 2 STDERR_CONTAINS "no formatter family given")
@@ -153,9 +208,23 @@ kvformat_case("two modes" ARGS number --from-raw --type 1 STDOUT "" STATUS 2 STD
 kvformat_case("unknown key" ARGS number --type "1\\q" STDOUT "" STATUS 2 STDERR_CONTAINS "unknown key \\q")
 kvformat_case("unfinished byte" ARGS string --type "\\x4" STDOUT "" STATUS 2 STDERR_CONTAINS "\\x needs two hex digits")
 
+kvformat_case("unknown date format" ARGS date --format Tomorrow 1 STDOUT "" STATUS 2
+  STDERR_CONTAINS "--format takes a name or number that --help lists, not 'Tomorrow'")
+kvformat_case("date format number out of range" ARGS date --format 18 1 STDOUT "" STATUS 2
+  STDERR_CONTAINS "not '18'")
+kvformat_case("time format number out of range" ARGS time --format 4 1 STDOUT "" STATUS 2 STDERR_CONTAINS "not '4'")
+kvformat_case("format needs a value" ARGS time --format STDOUT "" STATUS 2
+  STDERR_CONTAINS "--format needs a value (NAME|N)")
+kvformat_case("identification numbers take no options" ARGS ssn --format 1 x STDOUT "" STATUS 2
+  STDERR_CONTAINS "unknown option --format for ssn")
+
 # --- help ---------------------------------------------------------------------
 kvformat_case("help lists the families" ARGS --help STDOUT_CONTAINS "  number" STATUS 0)
 kvformat_case("family help lists its options" ARGS number --help STDOUT_CONTAINS "--paren-negative" STATUS 0)
+kvformat_case("date help lists the formats" ARGS date --help STDOUT_CONTAINS "17  YearOnly" STATUS 0)
+kvformat_case("time help lists the formats" ARGS time --help STDOUT_CONTAINS " 3  ElapsedHourMinuteSecond"
+  STATUS 0)
+kvformat_case("family without options says so" ARGS ssn --help STDOUT_CONTAINS "):\n  none\n" STATUS 0)
 
 file(REMOVE "${stdin_file}")
 if(failures GREATER 0)

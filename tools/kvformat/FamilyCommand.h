@@ -1,6 +1,6 @@
 // FamilyCommand: the settings of one formatter family, collected from the
 // command line, and the formatter they describe. Each family lives in its own
-// source file (StringCommand.cpp, NumberCommand.cpp) and is listed in FamilyTable.cpp.
+// source file (StringCommand.cpp, DateCommand.cpp ...) and is listed in FamilyTable.cpp.
 #pragma once
 
 #include "FamilyOption.h"
@@ -8,6 +8,7 @@
 #include "formatting/kvEditFormatter.h"
 
 #include <memory>
+#include <string>
 #include <vector>
 
 class FamilyCommand {
@@ -23,4 +24,8 @@ public:
     // The formatter with every setting applied; throws UsageError when the
     // settings contradict each other.
     virtual std::unique_ptr<kvEditFormatter> MakeFormatter() const = 0;
+    // Why a raw value cannot be one this family stores, for raw forms of a
+    // fixed shape whose refusal the formatter's validation cannot explain;
+    // empty when the shape is right, or when validation explains every refusal.
+    virtual std::string RawShapeMessage(const CString& /*raw*/) const { return {}; }
 };

@@ -4,7 +4,10 @@
 
 #define KVFORMAT_FAMILIES(FAMILY) \
     FAMILY(kStringFamily)         \
-    FAMILY(kNumberFamily)
+    FAMILY(kNumberFamily)         \
+    FAMILY(kDateFamily)           \
+    FAMILY(kTimeFamily)           \
+    FAMILY(kSsnFamily)
 
 #define KVFORMAT_DECLARE_FAMILY(entry) extern const FamilyEntry entry;
 KVFORMAT_FAMILIES(KVFORMAT_DECLARE_FAMILY)

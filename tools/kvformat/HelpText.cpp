@@ -2,6 +2,8 @@
 
 #include <iomanip>
 #include <ostream>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -18,7 +20,8 @@ const char kModes[] =
     "Modes:\n"
     "  (default)     validate VALUE as on leaving the field, print its display\n"
     "                form and the raw form stored from it\n"
-    "  --from-raw    VALUE is a raw form: print the display form and raw form\n"
+    "  --from-raw    VALUE is a raw form as a field stores it (a date MMDDYYYY,\n"
+    "                a time HHMMSS): print the display form and raw form\n"
     "  --type        VALUE is a sequence of keys typed into an empty field\n";
 
 const char kOutput[] =
@@ -52,14 +55,26 @@ void WriteFamilies(std::ostream& out)
     out << "Run kvformat FAMILY --help for its options.\n";
 }
 
+// Further lines of a help text (the values an option takes) go under the option.
+std::string IndentFollowingLines(const std::string& help)
+{
+    std::string indented;
+    for (const char ch : help)
+        indented += ch == '\n' ? std::string("\n      ") : std::string(1, ch);
+    return indented;
+}
+
 void WriteOptions(std::ostream& out, const FamilyEntry& family)
 {
     out << "\nOptions of " << family.name << " (" << family.summary << "):\n";
     const auto command = family.make();
-    for (const FamilyOption& option : command->Options()) {
+    const std::vector<FamilyOption> options = command->Options();
+    if (options.empty())
+        out << "  none\n";
+    for (const FamilyOption& option : options) {
         const std::string synopsis =
             "--" + option.name + (option.TakesArgument() ? " " + option.argument : std::string());
-        out << "  " << std::left << std::setw(32) << synopsis << ' ' << option.help << '\n';
+        out << "  " << std::left << std::setw(32) << synopsis << ' ' << IndentFollowingLines(option.help) << '\n';
     }
 }
 

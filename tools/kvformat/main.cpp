@@ -38,8 +38,7 @@ bool RunValue(ValueRunner& runner, ValueMode mode, const std::string& value)
 
 int RunValues(const CommandLine& commandLine, ResultWriter& writer)
 {
-    const auto formatter = commandLine.Command().MakeFormatter();
-    ValueRunner runner(*formatter, writer);
+    ValueRunner runner(commandLine.Command(), writer);
     bool allPassed = true;
     const auto run = [&](const std::string& value) {
         allPassed = RunValue(runner, commandLine.Mode(), value) && allPassed;
