@@ -6,10 +6,16 @@
 #include "formatting/kvWinAMCtrlValidateInfo.h"
 
 #if defined(_WIN32)
+#include "afx/CWinThread.h"
+#include "afx/CWnd.h"
 
 namespace {
-// Until the framework's thread object exists there is no main window to ask.
-HWND MainWindowOfCurrentThread() { return nullptr; }
+// The thread object's own main window: none without a thread object.
+HWND MainWindowOfCurrentThread()
+{
+    const CWinThread* pThread = AfxGetThread();
+    return pThread != nullptr ? pThread->m_pMainWnd->GetSafeHwnd() : nullptr;
+}
 }  // namespace
 
 LRESULT kvSendStatus(WPARAM wParam, LPARAM lParam)

@@ -1,0 +1,22 @@
+// Real input for window tests: keys and clicks through SendInput, which Wine
+// turns into the messages a user's typing produces (through the real queue and
+// TranslateMessage), and flushEvents to let them all arrive.
+#pragma once
+
+#include "afx/WinTypes.h"
+
+#include <string>
+
+// Pumps the thread's messages (through the framework's PreTranslateMessage
+// routing) until the queue stays empty for a moment.
+void flushEvents();
+
+// Brings hWndTop to the front and gives hWndFocus the focus.
+void FocusForInput(HWND hWndTop, HWND hWndFocus);
+
+// Presses and releases a virtual key, with Shift, Ctrl or Alt held as asked.
+void PressKey(WORD vk, bool shift = false, bool control = false, bool alt = false);
+// Types printable characters and '\t', '\r', '\b' with the keys that produce them.
+void TypeText(const std::string& text);
+// A left (or right) click at a point of hWnd's client area.
+void ClickAt(HWND hWnd, POINT clientPoint, bool right = false);
