@@ -1,0 +1,277 @@
+// The standard edit menu on a real EDIT control: enabling by undo state,
+// selection, read-only style and clipboard; the help item and the help id
+// lookup; each command chosen by its mnemonic reaching the control.
+#include "MenuDriver.h"
+#include "MessageRecorder.h"
+#include "WindowTest.h"
+
+#include "afx/CComboBox.h"
+#include "afx/CEdit.h"
+#include "afx/CWinApp.h"
+#include "menus/kvEditContextMenu.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+#ifndef WM_HELPHITTEST
+#define WM_HELPHITTEST 0x0366
+#endif
+
+// How the edit's parent answers WM_HELPHITTEST: with this id, or, when it is
+// kLookUpOwnID, by looking up its own help id as a control would.
+const DWORD kLookUpOwnID = 0xFFFFFFFF;
+DWORD g_parentHitTest = 0;
+
+LRESULT CALLBACK ParentProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_HELPHITTEST && g_parentHitTest == kLookUpOwnID)
+        return kvCtrlContextMenu::GetHelpID(CWnd::FromHandle(hWnd));
+    if (message == WM_HELPHITTEST)
+        return g_parentHitTest;
+    return DefWindowProcA(hWnd, message, wParam, lParam);
+}
+
+const char* ParentClass()
+{
+    static const ATOM atom = [] {
+        WNDCLASSA wc{};
+        wc.lpfnWndProc = &ParentProc;
+        wc.hInstance = GetModuleHandleA(nullptr);
+        wc.lpszClassName = "kvMenuTestParent";
+        return RegisterClassA(&wc);
+    }();
+    return atom ? "kvMenuTestParent" : nullptr;
+}
+
+// Exposes the help id the menu found.
+class ProbeMenu : public kvEditContextMenu {
+public:
+    DWORD HelpID() const { return m_dwHelpID; }
+};
+
+enum class Clip { Text, Empty, OtherFormat };
+
+void SetClipboard(HWND owner, Clip clip)
+{
+    ASSERT_TRUE(OpenClipboard(owner));
+    EmptyClipboard();
+    const char* data = clip == Clip::Text ? "XY" : "private";
+    if (clip != Clip::Empty) {
+        HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, 8);
+        lstrcpyA(static_cast<char*>(GlobalLock(memory)), data);
+        GlobalUnlock(memory);
+        SetClipboardData(clip == Clip::Text ? CF_TEXT : RegisterClipboardFormatA("kvWin test"), memory);
+    }
+    CloseClipboard();
+}
+
+std::string ClipboardText(HWND owner)
+{
+    std::string text;
+    if (!OpenClipboard(owner))
+        return text;
+    if (HANDLE data = GetClipboardData(CF_TEXT)) {
+        text = static_cast<const char*>(GlobalLock(data));
+        GlobalUnlock(data);
+    }
+    CloseClipboard();
+    return text;
+}
+
+class EditMenu : public WindowTest {
+protected:
+    void SetUp() override
+    {
+        g_parentHitTest = 0;
+        ASSERT_TRUE(m_parent.CreateEx(0, ParentClass(), "edit host", WS_POPUP, 0, 0, 300, 120, nullptr, nullptr));
+    }
+
+    void TearDown() override
+    {
+        SetClipboard(m_parent, Clip::Empty);
+        WindowTest::TearDown();
+    }
+
+    // The edit holds text + typed, typed entered as an undoable change.
+    void CreateEdit(UINT nID, DWORD style, const char* text, const char* typed, int selStart, int selEnd)
+    {
+        m_edit.DestroyWindow();
+        ASSERT_TRUE(m_edit.Create(WS_CHILD | ES_AUTOHSCROLL | style, CRect(10, 10, 200, 34), &m_parent, nID));
+        m_edit.SetWindowText(text);
+        m_edit.SetSel(lstrlenA(text), lstrlenA(text));
+        m_edit.ReplaceSel(typed, TRUE);
+        m_edit.SetSel(selStart, selEnd);
+    }
+
+    PopupRun Show(kvContextMenu& menu, const char* keys = "esc") { return RunPopup(menu, &m_edit, keys); }
+
+    CWnd m_parent;
+    CEdit m_edit;
+};
+
+struct EnablingRow {
+    const char* name;
+    const char* text;
+    const char* typed;
+    int selStart, selEnd;
+    DWORD style;
+    Clip clip;
+    const char* entries;
+};
+
+const EnablingRow kEnabling[] = {
+    {"empty edit", "", "", 0, 0, 0, Clip::Text,
+     "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste|5 &Delete (grayed)|-|6 Select &All (grayed)"},
+    {"empty clipboard", "", "", 0, 0, 0, Clip::Empty,
+     "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste (grayed)|5 &Delete (grayed)|-|6 Select &All (grayed)"},
+    {"clipboard without text", "abc", "", 1, 1, 0, Clip::OtherFormat,
+     "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste (grayed)|5 &Delete (grayed)|-|6 Select &All"},
+    {"caret without selection", "abc", "", 1, 1, 0, Clip::Text,
+     "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste|5 &Delete (grayed)|-|6 Select &All"},
+    {"everything selected", "abc", "", 0, 3, 0, Clip::Text,
+     "1 &Undo (grayed)|-|2 Cu&t|3 &Copy|4 &Paste|5 &Delete|-|6 Select &All (grayed)"},
+    {"part selected", "abc", "", 1, 3, 0, Clip::Text,
+     "1 &Undo (grayed)|-|2 Cu&t|3 &Copy|4 &Paste|5 &Delete|-|6 Select &All"},
+    {"typing can be undone", "ab", "c", 3, 3, 0, Clip::Text,
+     "1 &Undo|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste|5 &Delete (grayed)|-|6 Select &All"},
+    {"read-only edit offers cut and paste", "abc", "", 0, 2, ES_READONLY, Clip::Text,
+     "1 &Undo (grayed)|-|2 Cu&t|3 &Copy|4 &Paste|5 &Delete|-|6 Select &All"},
+};
+
+TEST_F(EditMenu, ItemsFollowTheEditState)
+{
+    for (const EnablingRow& row : kEnabling) {
+        SCOPED_TRACE(row.name);
+        SetClipboard(m_parent, row.clip);
+        CreateEdit(0, row.style, row.text, row.typed, row.selStart, row.selEnd);
+        kvEditContextMenu menu;
+        menu.AppendDefaultMenu();
+        EXPECT_EQ(Show(menu).entries, row.entries);
+    }
+}
+
+struct HelpRow {
+    const char* name;
+    UINT ctrlID;
+    DWORD ownHelpID, parentHelpID, parentHitTest;
+    DWORD helpID;
+};
+
+// The row after the recursive one also checks that the guard was cleared.
+const HelpRow kHelp[] = {
+    {"own help id", 0x3E9, 0x1234, 0x20064, 0, 0x1234},
+    {"composed from the dialog's help id", 0x3E9, 0, 0x20064, 0, 0x006403E9},
+    {"dialog looking up its own id does not recurse", 0x3E9, 0, 0, kLookUpOwnID, 0x3E9},
+    {"dialog answers the hit test", 0x3E9, 0, 0, 0x20064, 0x006403E9},
+    {"dialog id below the resource base wraps", 0x3E9, 0, 0x10005, 0, 0x000503E9},
+    {"dialog without help keeps the control id", 0x3E9, 0, 0, 0, 0x3E9},
+    {"no help anywhere", 0, 0, 0, 0, 0},
+};
+
+TEST_F(EditMenu, HelpItemShownOnlyWithAHelpID)
+{
+    for (const HelpRow& row : kHelp) {
+        SCOPED_TRACE(row.name);
+        CreateEdit(row.ctrlID, 0, "abc", "", 0, 0);
+        m_edit.SetWindowContextHelpId(row.ownHelpID);
+        m_parent.SetWindowContextHelpId(row.parentHelpID);
+        g_parentHitTest = row.parentHitTest;
+        EXPECT_EQ(kvCtrlContextMenu::GetHelpID(&m_edit), row.helpID);
+
+        ProbeMenu menu;
+        menu.AppendDefaultMenu();
+        const std::string entries = Show(menu).entries;
+        EXPECT_EQ(menu.HelpID(), row.helpID);
+        const std::string last = entries.substr(entries.rfind('|') + 1);
+        EXPECT_EQ(last, row.helpID ? "7 &What's This?" : "6 Select &All");
+    }
+}
+
+TEST_F(EditMenu, EditOfAComboBoxTakesTheComboBoxHelpID)
+{
+    CComboBox combo;
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(10, 40, 200, 140), &m_parent, 0x3EA));
+    combo.SetWindowContextHelpId(0x777);
+    CEdit edit;
+    ASSERT_TRUE(edit.SubclassWindow(FindWindowExA(combo, nullptr, "Edit", nullptr)));
+    ProbeMenu menu;
+    menu.AppendDefaultMenu();
+    RunPopup(menu, &edit, "esc");
+    EXPECT_EQ(menu.HelpID(), 0x777u);
+    edit.UnsubclassWindow();
+}
+
+// Stands in for the main window, through which the application shows help.
+class HelpRecorder : public CWnd {
+public:
+    void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override { calls.emplace_back(dwData, nCmd); }
+    std::vector<std::pair<DWORD_PTR, UINT>> calls;
+};
+
+TEST_F(EditMenu, WhatsThisShowsTheTopicOfTheFoundID)
+{
+    CreateEdit(0x3E9, 0, "abc", "", 0, 0);
+    m_parent.SetWindowContextHelpId(0x20064);
+    HelpRecorder recorder;
+    CWinApp* app = AfxGetApp();
+    ASSERT_NE(app, nullptr);
+    CWnd* mainWnd = std::exchange(app->m_pMainWnd, &recorder);
+    kvEditContextMenu menu;
+    menu.AppendDefaultMenu();
+    const unsigned int chosen = Show(menu, "w").chosen;
+    app->m_pMainWnd = mainWnd;
+    EXPECT_EQ(chosen, 7u);
+    const std::vector<std::pair<DWORD_PTR, UINT>> expected{{0x006403E9, 0x0F}};
+    EXPECT_EQ(recorder.calls, expected);
+}
+
+struct CommandRow {
+    const char* name;
+    const char* key;  // the mnemonic
+    unsigned int chosen;
+    UINT message;  // what the edit receives
+    const char* text;
+    int selStart, selEnd;
+    const char* clipboard;
+};
+
+const CommandRow kCommands[] = {
+    {"undo", "u", 1, WM_UNDO, "ab", 2, 2, "XY"},
+    {"cut", "t", 2, WM_CUT, "ac", 1, 1, "b"},
+    {"copy", "c", 3, WM_COPY, "abc", 1, 2, "b"},
+    {"paste", "p", 4, WM_PASTE, "aXYc", 3, 3, "XY"},
+    {"delete", "d", 5, WM_CLEAR, "ac", 1, 1, "XY"},
+    {"select all", "a", 6, EM_SETSEL, "abc", 0, 3, "XY"},
+};
+
+TEST_F(EditMenu, ChosenCommandReachesTheEdit)
+{
+    for (const CommandRow& row : kCommands) {
+        SCOPED_TRACE(row.name);
+        SetClipboard(m_parent, Clip::Text);
+        CreateEdit(0, 0, "ab", "c", 1, 2);
+        MessageLog log;
+        MessageRecorder recorder(log, {WM_CUT, WM_COPY, WM_PASTE, WM_CLEAR, WM_UNDO, EM_SETSEL});
+        recorder.Watch(m_edit, "edit");
+        kvEditContextMenu menu;
+        menu.AppendDefaultMenu();
+        EXPECT_EQ(Show(menu, row.key).chosen, row.chosen);
+        const ExpectedMessage expected[] = {{"edit", row.message, kAnyParams, 0, 0}};
+        EXPECT_SEQUENCE(log, expected);
+        CString text;
+        m_edit.GetWindowText(text);
+        EXPECT_STREQ(text, row.text);
+        int start = -1, end = -1;
+        m_edit.GetSel(start, end);
+        EXPECT_EQ(start, row.selStart);
+        EXPECT_EQ(end, row.selEnd);
+        EXPECT_EQ(ClipboardText(m_parent), row.clipboard);
+    }
+}
+
+}  // namespace
