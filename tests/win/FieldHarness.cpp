@@ -1,0 +1,274 @@
+#include "FieldHarness.h"
+
+#include "RealInput.h"
+
+#include "buttons/kvButton.h"
+#include "formatting/kvEdit.h"
+#include "formatting/kvMessages.h"
+#include "formatting/kvStatus.h"
+
+#include <cstring>
+#include <vector>
+
+const UINT WM_TEST_REGISTER_SUPER_TARGET = ::RegisterWindowMessageA("kvWin test: register super target");
+
+BEGIN_MESSAGE_MAP(FieldDialog, HostDialog)
+    ON_MESSAGE(WM_KV_CHILDKILLFOCUS, OnChildKillFocus)
+    ON_REGISTERED_MESSAGE(WM_TEST_REGISTER_SUPER_TARGET, OnRegisterSuperTarget)
+    ON_CONTROL_RANGE(EN_CHANGE, 0, 0xFFFF, OnFieldChange)
+END_MESSAGE_MAP()
+
+LRESULT FieldDialog::OnChildKillFocus(WPARAM wParam, LPARAM lParam)
+{
+    return m_validator.OnChildKillFocus(this, forward, wParam, lParam);
+}
+
+LRESULT FieldDialog::OnRegisterSuperTarget(WPARAM wParam, LPARAM lParam)
+{
+    return m_validator.OnRegisterSuperTarget(wParam, lParam);
+}
+
+void FieldDialog::OnFieldChange(UINT nID) { changes.Add("dialog", WM_COMMAND, nID); }
+
+// ---- the form ----
+
+FieldForm::FieldForm(CWnd* pParentWnd)
+    : m_template("fields", WS_POPUP | WS_CAPTION | WS_SYSMENU, 200, 140), dialog(m_template)
+{
+    dialog.CreateModeless(pParentWnd);
+}
+
+FieldForm::~FieldForm()
+{
+    dialog.DestroyWindow();
+    flushEvents();
+}
+
+RECT FieldForm::_NextRect(int height)
+{
+    const RECT rect{10, m_nextTop, 200, m_nextTop + height};
+    m_nextTop += height + 6;
+    return rect;
+}
+
+kvEdit& FieldForm::AddField(UINT nID, kvEditFormatter* pFormatter, const char* text, int start, int end,
+                            DWORD style)
+{
+    auto* pField = new kvEdit;
+    m_controls.emplace_back(pField);
+    pField->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL | style, _NextRect(22),
+                   &dialog, nID);
+    pField->SetWindowText(text);
+    pField->SetSel(start, end);
+    pField->SetFormatter(pFormatter);
+    dialog.changes.Clear();
+    return *pField;
+}
+
+kvButton& FieldForm::AddButton(UINT nID, const char* caption)
+{
+    auto* pButton = new kvButton;
+    m_controls.emplace_back(pButton);
+    pButton->Create(caption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, _NextRect(24), &dialog, nID);
+    return *pButton;
+}
+
+bool RefuseBFormatter::DoChar(CString&, unsigned long&, bool, unsigned int key, unsigned int, unsigned int) const
+{
+    if (key != 'b')
+        return true;
+    kvShowStatusMessage("b is not allowed.");
+    kvBeep(0);
+    return false;
+}
+
+std::string TextOf(const CWnd& wnd)
+{
+    CString text;
+    wnd.GetWindowText(text);
+    return text.GetString();
+}
+
+std::vector<std::string> MessagesOf(const char* message)
+{
+    return *message != '\0' ? std::vector<std::string>{message} : std::vector<std::string>{};
+}
+
+std::pair<int, int> SelOf(const CWnd& edit)
+{
+    DWORD start = 0, end = 0;
+    edit.SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {static_cast<int>(start), static_cast<int>(end)};
+}
+
+void SendChars(CWnd& wnd, const std::string& chars)
+{
+    for (const char ch : chars)
+        wnd.SendMessage(WM_CHAR, static_cast<unsigned char>(ch), 1);
+}
+
+// ---- beeps ----
+
+namespace {
+
+int g_beeps = 0;
+
+BOOL WINAPI RecordBeep(UINT)
+{
+    ++g_beeps;
+    return TRUE;
+}
+
+// The import address table entry through which module calls dll!function.
+void** FindImportSlot(HMODULE hModule, const char* dll, const char* function)
+{
+    auto* base = reinterpret_cast<BYTE*>(hModule);
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const IMAGE_DATA_DIRECTORY& imports = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    auto* entry = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
+    for (; entry->Name != 0; ++entry) {
+        if (::lstrcmpiA(reinterpret_cast<const char*>(base + entry->Name), dll) != 0)
+            continue;
+        auto* name = reinterpret_cast<IMAGE_THUNK_DATA*>(base + entry->OriginalFirstThunk);
+        auto* slot = reinterpret_cast<IMAGE_THUNK_DATA*>(base + entry->FirstThunk);
+        for (; name->u1.AddressOfData != 0; ++name, ++slot) {
+            if (IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal))
+                continue;
+            const auto* byName = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + name->u1.AddressOfData);
+            if (std::strcmp(reinterpret_cast<const char*>(byName->Name), function) == 0)
+                return reinterpret_cast<void**>(&slot->u1.Function);
+        }
+    }
+    return nullptr;
+}
+
+void WriteSlot(void** pSlot, void* value)
+{
+    DWORD protection = 0;
+    ::VirtualProtect(pSlot, sizeof value, PAGE_READWRITE, &protection);
+    *pSlot = value;
+    ::VirtualProtect(pSlot, sizeof value, protection, &protection);
+}
+
+}  // namespace
+
+BeepRecorder::BeepRecorder() : m_pSlot(FindImportSlot(::GetModuleHandleA("kvWin.dll"), "user32.dll", "MessageBeep"))
+{
+    g_beeps = 0;
+    if (m_pSlot == nullptr)
+        return;
+    m_pOriginal = *m_pSlot;
+    WriteSlot(m_pSlot, reinterpret_cast<void*>(&RecordBeep));
+}
+
+BeepRecorder::~BeepRecorder()
+{
+    if (m_pSlot != nullptr)
+        WriteSlot(m_pSlot, m_pOriginal);
+}
+
+// -1 tells a test that beeps could not be counted.
+int BeepRecorder::Count() const { return m_pSlot != nullptr ? g_beeps : -1; }
+
+// ---- clipboard ----
+
+void SetClipboardText(const char* text)
+{
+    if (!::OpenClipboard(nullptr))
+        return;
+    ::EmptyClipboard();
+    if (text != nullptr) {
+        const SIZE_T size = std::strlen(text) + 1;
+        HGLOBAL hData = ::GlobalAlloc(GMEM_MOVEABLE, size);
+        std::memcpy(::GlobalLock(hData), text, size);
+        ::GlobalUnlock(hData);
+        ::SetClipboardData(CF_TEXT, hData);
+    }
+    ::CloseClipboard();
+}
+
+std::string ClipboardText()
+{
+    std::string text;
+    if (!::OpenClipboard(nullptr))
+        return text;
+    if (HANDLE hData = ::GetClipboardData(CF_TEXT)) {
+        text = static_cast<const char*>(::GlobalLock(hData));
+        ::GlobalUnlock(hData);
+    }
+    ::CloseClipboard();
+    return text;
+}
+
+ClipboardKeeper::ClipboardKeeper() : m_hadText(::IsClipboardFormatAvailable(CF_TEXT) != FALSE)
+{
+    if (m_hadText)
+        m_text = ClipboardText();
+}
+
+ClipboardKeeper::~ClipboardKeeper() { SetClipboardText(m_hadText ? m_text.c_str() : nullptr); }
+
+// ---- context menu ----
+
+namespace {
+
+struct MenuSession {
+    std::string keys;
+    std::string entries;
+    bool keysSent = false;
+};
+MenuSession g_session;
+
+std::string DescribeItem(HMENU hMenu, int index)
+{
+    char text[64] = "";
+    MENUITEMINFOA info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_STRING;
+    info.dwTypeData = text;
+    info.cch = sizeof text;
+    ::GetMenuItemInfoA(hMenu, static_cast<UINT>(index), TRUE, &info);
+    if (info.fType & MFT_SEPARATOR)
+        return "-";
+    return std::string(text) + ((info.fState & MFS_GRAYED) ? " (grayed)" : "");
+}
+
+// Keys go in as real input once the menu waits for them.
+LRESULT CALLBACK WatchMenu(int code, WPARAM wParam, LPARAM lParam)
+{
+    const CWPSTRUCT& msg = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+    if (code == HC_ACTION && msg.message == WM_INITMENUPOPUP) {
+        const auto hMenu = reinterpret_cast<HMENU>(msg.wParam);
+        for (int i = 0; i < ::GetMenuItemCount(hMenu); ++i)
+            g_session.entries += (i ? "|" : "") + DescribeItem(hMenu, i);
+    }
+    if (code == HC_ACTION && msg.message == WM_ENTERIDLE && msg.wParam == MSGF_MENU && !g_session.keysSent) {
+        g_session.keysSent = true;
+        std::vector<INPUT> inputs;
+        for (const char ch : g_session.keys) {
+            for (const DWORD flags : {DWORD(0), DWORD(KEYEVENTF_KEYUP)}) {
+                INPUT input{};
+                input.type = INPUT_KEYBOARD;
+                input.ki.wVk = LOBYTE(::VkKeyScanA(ch));
+                input.ki.dwFlags = flags;
+                inputs.push_back(input);
+            }
+        }
+        ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+}  // namespace
+
+std::string ChooseFromContextMenu(const std::string& keys)
+{
+    g_session = MenuSession();
+    g_session.keys = keys;
+    HHOOK hHook = ::SetWindowsHookExA(WH_CALLWNDPROC, &WatchMenu, nullptr, ::GetCurrentThreadId());
+    PressKey(VK_F10, true);
+    flushEvents();
+    ::UnhookWindowsHookEx(hHook);
+    return g_session.entries;
+}
