@@ -1,0 +1,7 @@
+// Writes what a window shows, frame included, to a BMP file, so that the
+// gallery can leave a picture of itself when it runs unattended.
+#pragma once
+
+#include "afx/WinTypes.h"
+
+bool SaveWindowBitmap(HWND window, const char* fileName);

@@ -1,0 +1,18 @@
+// Resource ids of the gallery.
+#pragma once
+
+#define IDR_MAINFRAME 100
+#define IDD_CUSTOMER 101
+#define IDD_ABOUTBOX 102
+
+#define IDC_NAME 1001
+#define IDC_AMOUNT 1002
+#define IDC_DATE 1003
+#define IDC_IDNUMBER 1004
+#define IDC_LIBRARY_NAME 1010
+#define IDC_LIBRARY_VERSION 1011
+
+#define ID_APP_ABOUT 0xE140
+#define ID_APP_EXIT 0xE141
+#define ID_INDICATOR_OVR 0xE702
+#define AFX_IDS_IDLEMESSAGE 0xE001
