@@ -2,24 +2,61 @@
 #include "gallery/CustomerForm.h"
 
 #include "afx/CFrameWnd.h"
+#include "formatting/kvDateEditFormatter.h"
+#include "formatting/kvMessages.h"
+#include "formatting/kvNumEditFormatter.h"
+#include "formatting/kvSocSecEditFormatter.h"
+#include "formatting/kvStatus.h"
+#include "formatting/kvStrEditFormatter.h"
+#include "formatting/kvTimeEditFormatter.h"
 #include "gallery/resource.h"
 
 namespace {
 
-struct SampleField {
+// The form's fields in tab order, with the customer it starts with.
+struct FieldRow {
     UINT id;
-    const char* text;
+    const char* sample;
 };
 
-// A filled-in customer, so that the form shows what its fields hold.
-const SampleField kSampleCustomer[] = {
+const FieldRow kFields[] = {
     {IDC_NAME, "Ada Lovelace"},
-    {IDC_AMOUNT, "1,234.50"},
-    {IDC_DATE, "12/10/1815"},
     {IDC_IDNUMBER, "123-45-6789"},
+    {IDC_DATE, "12/10/1815"},
+    {IDC_TIME, "09:30"},
+    {IDC_AMOUNT, "1,234.50"},
 };
+
+kvEditFormatter* AmountFormatter()
+{
+    auto* formatter = new kvNumEditFormatter(
+        9, 2, kvNumEditFormatter::Separators | kvNumEditFormatter::PadDecimals | kvNumEditFormatter::RoundDecimals);
+    formatter->SetLowerLimit(0, kvNumEditFormatter::LowerExclusive);
+    formatter->SetUpperLimit(1000000, kvNumEditFormatter::UpperInclusive);
+    return formatter;
+}
+
+kvEditFormatter* FormatterFor(UINT id)
+{
+    switch (id) {
+    case IDC_NAME:
+        return new kvStrEditFormatter(30, 2);
+    case IDC_IDNUMBER:
+        return new kvSocSecEditFormatter;
+    case IDC_DATE:
+        return new kvDateEditFormatter(kvDateEditFormatter::MonthDayYearSlash);
+    case IDC_TIME:
+        return new kvTimeEditFormatter(kvTimeEditFormatter::ClockHourMinute);
+    default:
+        return AmountFormatter();
+    }
+}
 
 }  // namespace
+
+BEGIN_MESSAGE_MAP(CustomerForm, CDialog)
+    ON_MESSAGE(WM_KV_CHILDKILLFOCUS, OnChildKillFocus)
+END_MESSAGE_MAP()
 
 BOOL CustomerForm::Create(CWnd* pFrame)
 {
@@ -32,11 +69,81 @@ BOOL CustomerForm::Create(CWnd* pFrame)
 BOOL CustomerForm::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    m_name.SubclassDlgItem(IDC_NAME, this);
-    m_amount.SubclassDlgItem(IDC_AMOUNT, this);
-    m_date.SubclassDlgItem(IDC_DATE, this);
-    m_idNumber.SubclassDlgItem(IDC_IDNUMBER, this);
-    for (const SampleField& field : kSampleCustomer)
-        SetDlgItemText(field.id, field.text);
+    AttachFields();
+    m_ok.SubclassDlgItem(IDOK, this);
+    m_cancel.SubclassDlgItem(IDCANCEL, this);
+    for (size_t i = 0; i < m_saved.size(); ++i)
+        m_saved[i] = kFields[i].sample;
+    RestoreFields();
     return TRUE;
+}
+
+kvEdit& CustomerForm::Field(UINT nID)
+{
+    size_t i = 0;
+    while (i + 1 < m_fields.size() && kFields[i].id != nID)
+        ++i;
+    return m_fields[i];
+}
+
+void CustomerForm::AttachFields()
+{
+    for (size_t i = 0; i < m_fields.size(); ++i) {
+        m_fields[i].SubclassDlgItem(kFields[i].id, this);
+        m_fields[i].SetFormatter(FormatterFor(kFields[i].id));
+    }
+}
+
+// Focus changes stay inside the form: the frame holds no other fields.
+LRESULT CustomerForm::OnChildKillFocus(WPARAM wParam, LPARAM lParam)
+{
+    return m_validator.OnChildKillFocus(this, false, wParam, lParam);
+}
+
+bool CustomerForm::AllFieldsValid()
+{
+    for (kvEdit& field : m_fields) {
+        if (!m_validator.IsValidChild(&field))
+            return false;
+    }
+    return true;
+}
+
+void CustomerForm::SaveFields()
+{
+    for (size_t i = 0; i < m_saved.size(); ++i)
+        m_fields[i].GetWindowText(m_saved[i]);
+}
+
+void CustomerForm::RestoreFields()
+{
+    for (size_t i = 0; i < m_saved.size(); ++i)
+        m_fields[i].SetWindowText(m_saved[i]);
+}
+
+// OK and Enter save; a field still waiting for its check is checked first.
+void CustomerForm::OnOK()
+{
+    if (!m_ok.ValidatePendingCtrl() || !AllFieldsValid())
+        return;
+    SaveFields();
+    kvShowStatusMessage("Customer saved.");
+}
+
+// Cancel and Escape bring the saved customer back; nothing is checked.
+void CustomerForm::OnCancel()
+{
+    RestoreFields();
+    kvShowStatusMessage("Changes discarded.");
+    GotoDlgCtrl(&m_fields.front());
+}
+
+void CustomerForm::EnterInvalidAmount()
+{
+    kvEdit& amount = Field(IDC_AMOUNT);
+    GotoDlgCtrl(&amount);
+    amount.SetSel(0, -1);
+    for (const char* key = "2500000"; *key != '\0'; ++key)
+        amount.SendMessage(WM_CHAR, static_cast<unsigned char>(*key), 1);
+    GotoDlgCtrl(GetNextDlgTabItem(&amount));
 }

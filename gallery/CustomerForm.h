@@ -1,24 +1,45 @@
 // CustomerForm: the business form the gallery shows in its main window: a
-// customer's name, an amount, a date and an ID number.
+// customer (name, ID number) and an invoice (date, time, amount), each field
+// formatted and validated when the focus leaves it. OK saves the form once
+// every field is valid; Cancel brings the saved values back without a check.
 #pragma once
 
 #include "afx/CDialog.h"
-#include "afx/CEdit.h"
+#include "buttons/kvButton.h"
+#include "formatting/kvEdit.h"
+#include "formatting/kvEditValidator.h"
+
+#include <array>
 
 class CustomerForm : public CDialog {
 public:
     // Creates the form as the view of its frame.
     BOOL Create(CWnd* pFrame);
+    // Types an amount above the limit and tabs on, as a person would, so that
+    // the form shows how it refuses invalid input.
+    void EnterInvalidAmount();
 
 protected:
     BOOL OnInitDialog() override;
-    // Enter and Escape in a field must not close a form that is not a dialog box.
-    void OnOK() override {}
-    void OnCancel() override {}
+    void OnOK() override;
+    void OnCancel() override;
+    afx_msg LRESULT OnChildKillFocus(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
 
 private:
-    CEdit m_name;
-    CEdit m_amount;
-    CEdit m_date;
-    CEdit m_idNumber;
+    void AttachFields();
+    // False when a field is invalid: it has the focus again and its message is shown.
+    bool AllFieldsValid();
+    void SaveFields();
+    void RestoreFields();
+
+    kvEdit& Field(UINT nID);
+
+    // In tab order: name, ID number, date, time, amount.
+    std::array<kvEdit, 5> m_fields;
+    kvButton m_ok;
+    kvButton m_cancel;
+    kvEditValidator m_validator;
+    std::array<CString, 5> m_saved;  // what Cancel brings back
 };

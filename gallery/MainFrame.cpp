@@ -38,7 +38,7 @@ END_MESSAGE_MAP()
 
 BOOL MainFrame::Create()
 {
-    const CRect initial(40, 40, 520, 330);
+    const CRect initial(40, 40, 440, 420);
     return CFrameWnd::Create(nullptr, "kvWin Gallery", WS_OVERLAPPEDWINDOW, initial, nullptr,
                              MAKEINTRESOURCE(IDR_MAINFRAME));
 }
@@ -89,6 +89,7 @@ void MainFrame::ShowOvertype()
 void MainFrame::SavePictureAndClose(const CString& fileName)
 {
     m_pictureFile = fileName;
+    m_form.EnterInvalidAmount();
     SetTimer(kPictureTimer, kPictureDelayMs);
 }
 

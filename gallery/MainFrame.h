@@ -11,8 +11,9 @@ class kvWinAMCtrlValidateInfo;
 class MainFrame : public CFrameWnd {
 public:
     BOOL Create();
-    // Once the window has been drawn, saves a picture of it to fileName and
-    // closes; the outcome goes to the application.
+    // Enters an invalid amount and, once the window has been drawn with the
+    // field's message, saves a picture of it to fileName and closes; the
+    // outcome goes to the application.
     void SavePictureAndClose(const CString& fileName);
 
 protected:
