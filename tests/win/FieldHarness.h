@@ -5,6 +5,7 @@
 #pragma once
 
 #include "HostDialog.h"
+#include "ImportPatch.h"
 #include "MessageLog.h"
 
 #include "formatting/kvEditValidator.h"
@@ -90,15 +91,11 @@ void SendChars(CWnd& wnd, const std::string& chars);
 class BeepRecorder {
 public:
     BeepRecorder();
-    ~BeepRecorder();
-    BeepRecorder(const BeepRecorder&) = delete;
-    BeepRecorder& operator=(const BeepRecorder&) = delete;
 
     int Count() const;
 
 private:
-    void** m_pSlot = nullptr;
-    void* m_pOriginal = nullptr;
+    ImportPatch m_patch;
 };
 
 // Puts the clipboard's text back when the test ends.

@@ -28,7 +28,6 @@ INPUT MouseInput(DWORD flags, LONG dx = 0, LONG dy = 0)
 void Send(std::vector<INPUT> inputs)
 {
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-    flushEvents();
 }
 
 // Absolute mouse coordinates run from 0 to 65535 across the screen.
@@ -66,6 +65,12 @@ void FocusForInput(HWND hWndTop, HWND hWndFocus)
 
 void PressKey(WORD vk, bool shift, bool control, bool alt)
 {
+    QueueKey(vk, shift, control, alt);
+    flushEvents();
+}
+
+void QueueKey(WORD vk, bool shift, bool control, bool alt)
+{
     std::vector<INPUT> inputs;
     const std::pair<bool, WORD> modifiers[] = {{shift, VK_SHIFT}, {control, VK_CONTROL}, {alt, VK_MENU}};
     for (const auto& [held, key] : modifiers) {
@@ -91,6 +96,12 @@ void TypeText(const std::string& text)
 }
 
 void ClickAt(HWND hWnd, POINT clientPoint, bool right)
+{
+    QueueClickAt(hWnd, clientPoint, right);
+    flushEvents();
+}
+
+void QueueClickAt(HWND hWnd, POINT clientPoint, bool right)
 {
     POINT screen = clientPoint;
     ::ClientToScreen(hWnd, &screen);

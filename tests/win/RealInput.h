@@ -20,3 +20,8 @@ void PressKey(WORD vk, bool shift = false, bool control = false, bool alt = fals
 void TypeText(const std::string& text);
 // A left (or right) click at a point of hWnd's client area.
 void ClickAt(HWND hWnd, POINT clientPoint, bool right = false);
+
+// PressKey and ClickAt without waiting for the events to arrive: for long runs
+// of input that pump the queue themselves.
+void QueueKey(WORD vk, bool shift = false, bool control = false, bool alt = false);
+void QueueClickAt(HWND hWnd, POINT clientPoint, bool right = false);
