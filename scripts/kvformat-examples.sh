@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds kvformat and checks a few example values with the rules of an amount
-# field and of a name field.
+# Builds kvformat and checks a few example values with the rules of the
+# fields: amounts, names, dates, times and ID numbers.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -18,3 +18,8 @@ echo "Names (2 to 10 characters, upper case):"
 echo
 echo "Typing 1234567.89 into an empty amount field:"
 "$kvformat" number --integers 9 --decimals 2 --separators --type "1234567.89"
+echo
+echo "Dates (month/day/year with slashes), times of day and ID numbers:"
+"$kvformat" date --format MonthDayYearSlash 12/31/99 123199 2/30/2020 || true
+"$kvformat" time --format ClockHourMinute 930 25:00 || true
+"$kvformat" ssn 123456789 12-34 || true
