@@ -58,30 +58,4 @@ TEST(SmartPtr, Ownership)
     }
 }
 
-struct AccessRow {
-    const char* name;
-    std::function<bool(const Ptr& first, const Ptr& second)> holds;
-};
-
-const AccessRow kAccess[] = {
-    {"copies compare equal", [](const Ptr& a, const Ptr&) { Ptr b = a; return a == b && !(a != b); }},
-    {"distinct objects differ", [](const Ptr& a, const Ptr& b) { return a != b && !(a == b); }},
-    {"distinct objects are ordered one way", [](const Ptr& a, const Ptr& b) { return (a < b) != (b < a); }},
-    {"null compares equal to nullptr", [](const Ptr&, const Ptr&) { Ptr n; return n == nullptr && !n; }},
-    {"an object is not nullptr", [](const Ptr& a, const Ptr&) { return a != nullptr && static_cast<bool>(a); }},
-    {"base and derived copies compare equal",
-     [](const Ptr&, const Ptr&) { kvBase::SmartPtr<LabeledItem> d(new LabeledItem); Ptr b = d; return b == d; }},
-    {"arrow reaches the object", [](const Ptr& a, const Ptr&) { return a->value == 7; }},
-    {"star reaches the object", [](const Ptr&, const Ptr& b) { return (*b).value == 8 && &*b == b.get(); }},
-};
-
-TEST(SmartPtr, AccessAndComparison)
-{
-    Ptr first(new Item(7)), second(new Item(8));
-    for (const AccessRow& row : kAccess) {
-        SCOPED_TRACE(row.name);
-        EXPECT_TRUE(row.holds(first, second));
-    }
-}
-
 }  // namespace
