@@ -24,11 +24,10 @@ const char* ScreenshotFile()
 
 BOOL GalleryApp::InitInstance()
 {
+    // A frame deletes itself when it is destroyed, also when its creation fails.
     auto* frame = new MainFrame;
-    if (!frame->Create()) {
-        delete frame;
+    if (!frame->Create())
         return FALSE;
-    }
     m_pMainWnd = frame;
     frame->ShowWindow(m_nCmdShow);
     frame->UpdateWindow();
