@@ -17,6 +17,9 @@ fi
 # gallery's caption and borders itself (a setting for gallery.exe alone).
 "$build/wine-run" reg add 'HKCU\Software\Wine\AppDefaults\gallery.exe\X11 Driver' \
   /v Managed /d N /f >/dev/null
+# The Wine server started without a display must be gone before the gallery
+# starts on the virtual one, or the gallery would join it and get no window.
+WINEPREFIX="$PWD/$build/wineprefix" wineserver -w
 rm -f "$build/gallery.bmp" "$build/gallery.png"
 xvfb-run -a "$build/wine-run" "$build/bin/gallery.exe" --screenshot "$build/gallery.bmp"
 convert "$build/gallery.bmp" "$build/gallery.png"
