@@ -1,9 +1,9 @@
-// The monkey test: seeded random keys, clicks, pastes and focus moves over the
+// The monkey test: reproducible random keys, clicks, pastes and focus moves over the
 // gallery's customer form. Nothing may crash; an invalid field may never lose
 // the focus to a window that validates it; and once the form is gone the
 // process holds the GDI and USER objects it held before.
 //
-// KVWIN_MONKEY_SEED and KVWIN_MONKEY_EVENTS replay or lengthen a run.
+// KVWIN_MONKEY_RUN (which random sequence) and KVWIN_MONKEY_EVENTS replay or lengthen a run.
 #include "GuiObjectCounter.h"
 
 #include "win/ModalWatchdog.h"
@@ -18,7 +18,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <cstring>
 #include <random>
 #include <string>
 #include <vector>
@@ -40,31 +39,6 @@ const char* const kClipboardTexts[] = {
     "a", "b", "x", "Ada", "1,234.56", "2500000", "-0", "(12.5)", "12345678901234567890", "12/31/1999",
     "02/30/2020", "9:30", "25:61", "123-45-6789", "12-3", "\xE9t\xE9 \xA3 5", "", "  ", "1..5", "0.005",
 };
-
-void PumpPendingMessages()
-{
-    MSG msg;
-    while (::PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE)) {
-        if (msg.message == WM_QUIT) {
-            ::PeekMessageA(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-            continue;
-        }
-        AfxPumpMessage();
-    }
-}
-
-void PutOnClipboard(const char* text)
-{
-    if (!::OpenClipboard(nullptr))
-        return;
-    ::EmptyClipboard();
-    const SIZE_T size = std::strlen(text) + 1;
-    HGLOBAL hData = ::GlobalAlloc(GMEM_MOVEABLE, size);
-    std::memcpy(::GlobalLock(hData), text, size);
-    ::GlobalUnlock(hData);
-    ::SetClipboardData(CF_TEXT, hData);
-    ::CloseClipboard();
-}
 
 kvEdit* FieldOf(HWND hWnd)
 {
@@ -99,7 +73,7 @@ private:
 
 class Monkey {
 public:
-    Monkey(CustomerForm& form, unsigned seed) : m_form(form), m_random(seed) {}
+    Monkey(CustomerForm& form, unsigned run) : m_form(form), m_random(run) {}
 
     // One random event; false when it let an invalid field lose the focus.
     bool Act()
@@ -107,7 +81,7 @@ public:
         HWND hBefore = ::GetFocus();
         kvEdit* pField = FieldOf(hBefore);
         m_last = RandomEvent();
-        PumpPendingMessages();
+        pumpPendingEvents();
         HWND hAfter = ::GetFocus();
         return pField == nullptr || hAfter == hBefore || !Validates(hAfter) || HoldsValidText(*pField);
     }
@@ -176,7 +150,7 @@ private:
     std::string Paste()
     {
         const char* text = kClipboardTexts[Pick(std::size(kClipboardTexts))];
-        PutOnClipboard(text);
+        SetClipboardText(text);
         QueueKey('V', false, true);
         return std::string("paste \"") + text + "\"";
     }
@@ -204,7 +178,7 @@ private:
 
 TEST(Monkey, RandomInputOverTheCustomerForm)
 {
-    const unsigned seed = EnvironmentNumber("KVWIN_MONKEY_SEED", 20261122);
+    const unsigned run = EnvironmentNumber("KVWIN_MONKEY_RUN", 20261122);
     const unsigned events = EnvironmentNumber("KVWIN_MONKEY_EVENTS", 20000);
     StatusRecorder status;
     ModalWatchdog watchdog(600000);
@@ -212,10 +186,10 @@ TEST(Monkey, RandomInputOverTheCustomerForm)
     const GuiObjectCounts start = counter.Count();
     {
         FormWindow window;
-        Monkey monkey(window.Form(), seed);
+        Monkey monkey(window.Form(), run);
         for (unsigned i = 0; i < events; ++i) {
             ASSERT_TRUE(monkey.Act()) << "event " << i << " (" << monkey.LastEvent()
-                                      << ") let an invalid field lose the focus; seed " << seed;
+                                      << ") let an invalid field lose the focus; run " << run;
             if (i % 500 == 0)
                 flushEvents();
         }

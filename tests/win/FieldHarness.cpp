@@ -7,7 +7,6 @@
 #include "formatting/kvMessages.h"
 #include "formatting/kvStatus.h"
 
-#include <cstring>
 #include <vector>
 
 const UINT WM_TEST_REGISTER_SUPER_TARGET = ::RegisterWindowMessageA("kvWin test: register super target");
@@ -131,34 +130,6 @@ BeepRecorder::BeepRecorder()
 int BeepRecorder::Count() const { return m_patch.Active() ? g_beeps : -1; }
 
 // ---- clipboard ----
-
-void SetClipboardText(const char* text)
-{
-    if (!::OpenClipboard(nullptr))
-        return;
-    ::EmptyClipboard();
-    if (text != nullptr) {
-        const SIZE_T size = std::strlen(text) + 1;
-        HGLOBAL hData = ::GlobalAlloc(GMEM_MOVEABLE, size);
-        std::memcpy(::GlobalLock(hData), text, size);
-        ::GlobalUnlock(hData);
-        ::SetClipboardData(CF_TEXT, hData);
-    }
-    ::CloseClipboard();
-}
-
-std::string ClipboardText()
-{
-    std::string text;
-    if (!::OpenClipboard(nullptr))
-        return text;
-    if (HANDLE hData = ::GetClipboardData(CF_TEXT)) {
-        text = static_cast<const char*>(::GlobalLock(hData));
-        ::GlobalUnlock(hData);
-    }
-    ::CloseClipboard();
-    return text;
-}
 
 ClipboardKeeper::ClipboardKeeper() : m_hadText(::IsClipboardFormatAvailable(CF_TEXT) != FALSE)
 {

@@ -111,9 +111,6 @@ private:
     bool m_hadText = false;
 };
 
-// Null empties the clipboard.
-void SetClipboardText(const char* text);
-std::string ClipboardText();
 
 // Opens the focused window's context menu with Shift+F10 and, once it is open,
 // types keys into it (mnemonics, '\r', '\x1b'). Returns the items it showed:

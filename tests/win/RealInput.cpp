@@ -2,6 +2,7 @@
 
 #include "afx/CWinThread.h"
 
+#include <cstring>
 #include <vector>
 
 namespace {
@@ -44,15 +45,20 @@ void flushEvents()
     while (::GetTickCount() - start < kMaxMilliseconds) {
         if (::MsgWaitForMultipleObjects(0, nullptr, FALSE, kQuietMilliseconds, QS_ALLINPUT) == WAIT_TIMEOUT)
             break;
-        MSG msg;
-        while (::PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE)) {
-            // A quit request belongs to a loop the test is not running.
-            if (msg.message == WM_QUIT) {
-                ::PeekMessageA(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-                continue;
-            }
-            AfxPumpMessage();
+        pumpPendingEvents();
+    }
+}
+
+void pumpPendingEvents()
+{
+    MSG msg;
+    while (::PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE)) {
+        // A quit request belongs to a loop the test is not running.
+        if (msg.message == WM_QUIT) {
+            ::PeekMessageA(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+            continue;
         }
+        AfxPumpMessage();
     }
 }
 
@@ -110,4 +116,32 @@ void QueueClickAt(HWND hWnd, POINT clientPoint, bool right)
     Send({MouseInput(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, dx, dy),
           MouseInput(right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
           MouseInput(right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+}
+
+void SetClipboardText(const char* text)
+{
+    if (!::OpenClipboard(nullptr))
+        return;
+    ::EmptyClipboard();
+    if (text != nullptr) {
+        const SIZE_T size = std::strlen(text) + 1;
+        HGLOBAL hData = ::GlobalAlloc(GMEM_MOVEABLE, size);
+        std::memcpy(::GlobalLock(hData), text, size);
+        ::GlobalUnlock(hData);
+        ::SetClipboardData(CF_TEXT, hData);
+    }
+    ::CloseClipboard();
+}
+
+std::string ClipboardText()
+{
+    std::string text;
+    if (!::OpenClipboard(nullptr))
+        return text;
+    if (HANDLE hData = ::GetClipboardData(CF_TEXT)) {
+        text = static_cast<const char*>(::GlobalLock(hData));
+        ::GlobalUnlock(hData);
+    }
+    ::CloseClipboard();
+    return text;
 }

@@ -10,6 +10,8 @@
 // Pumps the thread's messages (through the framework's PreTranslateMessage
 // routing) until the queue stays empty for a moment.
 void flushEvents();
+// Pumps the messages already queued, without waiting for more.
+void pumpPendingEvents();
 
 // Brings hWndTop to the front and gives hWndFocus the focus.
 void FocusForInput(HWND hWndTop, HWND hWndFocus);
@@ -25,3 +27,7 @@ void ClickAt(HWND hWnd, POINT clientPoint, bool right = false);
 // of input that pump the queue themselves.
 void QueueKey(WORD vk, bool shift = false, bool control = false, bool alt = false);
 void QueueClickAt(HWND hWnd, POINT clientPoint, bool right = false);
+
+// The real clipboard's text. Null empties the clipboard.
+void SetClipboardText(const char* text);
+std::string ClipboardText();
