@@ -26,6 +26,7 @@ const FieldRow kFields[] = {
     {IDC_TIME, "09:30"},
     {IDC_AMOUNT, "1,234.50"},
 };
+constexpr size_t kAmountField = 4;
 
 kvEditFormatter* AmountFormatter()
 {
@@ -76,14 +77,6 @@ BOOL CustomerForm::OnInitDialog()
         m_saved[i] = kFields[i].sample;
     RestoreFields();
     return TRUE;
-}
-
-kvEdit& CustomerForm::Field(UINT nID)
-{
-    size_t i = 0;
-    while (i + 1 < m_fields.size() && kFields[i].id != nID)
-        ++i;
-    return m_fields[i];
 }
 
 void CustomerForm::AttachFields()
@@ -140,7 +133,7 @@ void CustomerForm::OnCancel()
 
 void CustomerForm::EnterInvalidAmount()
 {
-    kvEdit& amount = Field(IDC_AMOUNT);
+    kvEdit& amount = m_fields[kAmountField];
     GotoDlgCtrl(&amount);
     amount.SetSel(0, -1);
     for (const char* key = "2500000"; *key != '\0'; ++key)

@@ -34,8 +34,6 @@ private:
     void SaveFields();
     void RestoreFields();
 
-    kvEdit& Field(UINT nID);
-
     // In tab order: name, ID number, date, time, amount.
     std::array<kvEdit, 5> m_fields;
     kvButton m_ok;
