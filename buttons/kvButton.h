@@ -5,6 +5,7 @@
 #pragma once
 
 #include "afx/CButton.h"
+#include "formatting/_kvPendingCtrl.h"
 #include "library/kvWinExport.h"
 
 class KVWIN_API kvButton : public CButton {
@@ -31,11 +32,5 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // The pending control's check, sent to the dialog; nonzero when it was invalid.
-    LRESULT _CheckPendingCtrl(CWnd* pNewWnd, LPARAM lParam);
-    bool _PendingCtrlExists() const;
-
-    // Kept as a handle: the control may be destroyed, and its CWnd with it,
-    // while the check waits.
-    HWND m_hPendingCtrl;
+    _kvPendingCtrl m_PendingCtrl;
 };

@@ -7,15 +7,16 @@
 // it to the native control; LegacySetText returns false to refuse a text.
 #include "formatting/kvEdit.h"
 
-#include "afx/CDC.h"
-#include "formatting/kvChildKillFocus.h"
 #include "formatting/kvEditValidator.h"
+#include "formatting/kvFocusReports.h"
 #include "formatting/kvMessages.h"
+#include "formatting/kvNotifyParent.h"
 #include "formatting/kvParentFont.h"
 #include "formatting/kvSelection.h"
 #include "formatting/kvStatus.h"
 #include "formatting/kvWinAMCtrlValidateInfo.h"
 #include "menus/kvEditContextMenu.h"
+#include "menus/kvShowContextMenu.h"
 
 #include <cstring>
 
@@ -58,10 +59,16 @@ bool IsOvertypeOn() { return kvSendStatus(kvStatusGetOvertype, 0) != 0; }
 
 bool IsEmptySelection(unsigned long sel) { return kvSelStart(sel) == kvSelEnd(sel); }
 
+CString SelectedChars(const CString& text, int start, int end) { return text.Mid(start, end - start); }
+
 CString SelectedChars(const CString& text, unsigned long sel)
 {
-    return text.Mid(kvSelStart(sel), kvSelEnd(sel) - kvSelStart(sel));
+    return SelectedChars(text, kvSelStart(sel), kvSelEnd(sel));
 }
+
+// These controls' own colour kinds: a read-only field paints as static
+// (CTLCOLOR_STATIC) and keeps the system look.
+constexpr UINT kColouredKinds = _kvControlColors::KindBit(CTLCOLOR_MSGBOX) | _kvControlColors::KindBit(CTLCOLOR_EDIT);
 
 CString TextOfMessage(LPARAM lParam)
 {
@@ -104,10 +111,7 @@ END_MESSAGE_MAP()
 kvEdit::kvEdit() : kvEdit(static_cast<kvFormatter*>(nullptr)) {}
 
 kvEdit::kvEdit(kvFormatter* pFormatter)
-    : m_crText(::GetSysColor(COLOR_WINDOWTEXT)),
-      m_crBk(::GetSysColor(COLOR_WINDOW)),
-      m_brBk(m_crBk),
-      m_pFormatter(nullptr),
+    : m_pFormatter(nullptr),
       m_bSetTextPassThrough(true),
       m_pOldFormatter(pFormatter)
 {
@@ -117,7 +121,6 @@ kvEdit::~kvEdit()
 {
     delete m_pOldFormatter;
     delete m_pFormatter;
-    m_brBk.DeleteObject();
 }
 
 BOOL kvEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -156,35 +159,11 @@ void kvEdit::SetFormatter(kvFormatter* pFormatter)
     m_pOldFormatter = pFormatter;
 }
 
-void kvEdit::SetTextColor(COLORREF crText)
-{
-    if (crText == m_crText)
-        return;
-    m_crText = crText;
-    if (GetSafeHwnd() != nullptr)
-        Invalidate();
-}
+void kvEdit::SetTextColor(COLORREF crText) { m_Colors.SetTextColor(*this, crText); }
 
-void kvEdit::SetBkColor(COLORREF crBk)
-{
-    if (crBk == m_crBk)
-        return;
-    m_crBk = crBk;
-    m_brBk.DeleteObject();
-    m_brBk.CreateSolidBrush(crBk);
-    if (GetSafeHwnd() != nullptr)
-        Invalidate();
-}
+void kvEdit::SetBkColor(COLORREF crBk) { m_Colors.SetBkColor(*this, crBk); }
 
-// A read-only field paints as static (CTLCOLOR_STATIC) and keeps the system look.
-HBRUSH kvEdit::CtlColor(CDC* pDC, UINT nCtlColor)
-{
-    if (nCtlColor != CTLCOLOR_MSGBOX && nCtlColor != CTLCOLOR_EDIT)
-        return nullptr;
-    pDC->SetTextColor(m_crText);
-    pDC->SetBkColor(m_crBk);
-    return m_brBk;
-}
+HBRUSH kvEdit::CtlColor(CDC* pDC, UINT nCtlColor) { return m_Colors.CtlColor(pDC, nCtlColor, kColouredKinds); }
 
 // ---- common steps ----
 
@@ -197,15 +176,35 @@ CString kvEdit::_Text() const
 
 bool kvEdit::_IsReadOnly() const { return (GetStyle() & ES_READONLY) != 0; }
 
+bool kvEdit::_IsPassword() const { return (GetStyle() & ES_PASSWORD) != 0; }
+
+bool kvEdit::_IsSelectionEmpty() const
+{
+    int start = 0, end = 0;
+    GetSel(start, end);
+    return start == end;
+}
+
+CString kvEdit::_SelectedText() const
+{
+    int start = 0, end = 0;
+    GetSel(start, end);
+    return SelectedChars(_Text(), start, end);
+}
+
 // Cut, paste and clear of a read-only field stay native: the native control
 // copies but does not change the text.
 bool kvEdit::_TakesFormattedEdits() const { return m_pFormatter != nullptr && !_IsReadOnly(); }
 
+// The native control clears its modified flag on every text it is given; the
+// field's own writes must not make the user's changes look unchanged.
 void kvEdit::_SetWindowText(const CString& text)
 {
+    const BOOL modified = GetModify();
     m_bSetTextPassThrough = false;
     SetWindowText(text);
     m_bSetTextPassThrough = true;
+    SetModify(modified);
 }
 
 void kvEdit::_Select(unsigned long sel) { SetSel(kvSelStart(sel), kvSelEnd(sel)); }
@@ -215,9 +214,7 @@ void kvEdit::_ReportChange(const CString& before, const CString& after)
     if (before == after)
         return;
     SetModify(TRUE);
-    if (CWnd* pParent = GetParent(); pParent != nullptr)
-        pParent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID() & 0xFFFF, EN_CHANGE),
-                             reinterpret_cast<LPARAM>(m_hWnd));
+    kvNotifyParent(this, EN_CHANGE);
 }
 
 void kvEdit::_ShowEdit(const CString& before, const CString& text, unsigned long sel)
@@ -330,22 +327,20 @@ void kvEdit::OnSetFocus(CWnd* pOldWnd)
     }
     if ((GetStyle() & ES_RIGHT) && !text.IsEmpty())
         _AnchorRightAlignedText();
-    kvSendStatus(kvStatusFocusIn, reinterpret_cast<LPARAM>(m_hWnd));
+    kvReportFocusIn(this);
 }
 
 void kvEdit::OnKillFocus(CWnd* pNewWnd)
 {
     CEdit::OnKillFocus(pNewWnd);
-    if (CWnd* pParent = GetParent(); pParent != nullptr) {
-        kvChildKillFocus record(this, pNewWnd);
-        pParent->SendMessage(WM_KV_CHILDKILLFOCUS, reinterpret_cast<WPARAM>(&record), 0);
-    }
+    kvSendChildKillFocus(this, pNewWnd);
     // Setting the text again scrolls a long text back to its beginning.
     const CString text = _Text();
-    if (LOWORD(GetSel()) >= text.GetLength())
+    int start = 0, end = 0;
+    GetSel(start, end);
+    if (start >= text.GetLength())
         _SetWindowText(text);
-    if (const HWND hFocus = ::GetFocus(); hFocus != m_hWnd)
-        kvSendStatus(kvStatusFocusOut, reinterpret_cast<LPARAM>(hFocus));
+    kvReportFocusOut(this);
 }
 
 LRESULT kvEdit::OnVerify(WPARAM wParam, LPARAM)
@@ -436,20 +431,25 @@ bool kvEdit::_DeleteThroughFormatter(CString& text, unsigned long& sel) const
     return !m_pFormatter->DoKeyDown(text, sel, false, VK_DELETE, 1, 0);
 }
 
+// A password never reaches the clipboard, as with the native control.
 LRESULT kvEdit::OnCopy(WPARAM, LPARAM)
 {
-    const CString chars = SelectedChars(_Text(), GetSel());
+    if (_IsPassword())
+        return 0;
+    const CString chars = _SelectedText();
     return _PutOnClipboard(chars) ? chars.GetLength() : 0;
 }
 
 LRESULT kvEdit::OnCut(WPARAM, LPARAM)
 {
+    if (_IsPassword())
+        return 0;
     if (!_TakesFormattedEdits())
         return Default();
+    if (_IsSelectionEmpty())
+        return 0;
     const CString before = _Text();
     const unsigned long sel = GetSel();
-    if (IsEmptySelection(sel))
-        return 0;
     CString text(before);
     unsigned long newSel = sel;
     if (!_DeleteThroughFormatter(text, newSel))
@@ -462,12 +462,12 @@ LRESULT kvEdit::OnCut(WPARAM, LPARAM)
 
 LRESULT kvEdit::OnClear(WPARAM, LPARAM)
 {
-    const CString before = _Text();
-    unsigned long sel = GetSel();
-    if (IsEmptySelection(sel))
+    if (_IsSelectionEmpty())
         return 0;
     if (!_TakesFormattedEdits())
         return Default();
+    const CString before = _Text();
+    unsigned long sel = GetSel();
     CString text(before);
     if (!_DeleteThroughFormatter(text, sel))
         return Default();
@@ -515,12 +515,7 @@ void kvEdit::_PasteChar(CString& text, unsigned long& sel, char ch) const
 
 // ---- context menu ----
 
-void kvEdit::OnContextMenu(CWnd*, CPoint point)
-{
-    kvEditContextMenu menu;
-    menu.AppendDefaultMenu();
-    menu.DisplayPopup(this, point);
-}
+void kvEdit::OnContextMenu(CWnd*, CPoint point) { kvShowContextMenu<kvEditContextMenu>(this, point); }
 
 // ---- the older formatter interface ----
 

@@ -5,8 +5,8 @@
 // main window keeps it for every field, through the status message.
 #pragma once
 
-#include "afx/CBrush.h"
 #include "afx/CEdit.h"
+#include "formatting/_kvControlColors.h"
 #include "formatting/kvEditFormatter.h"
 #include "formatting/kvFormatter.h"
 #include "library/kvWinExport.h"
@@ -56,7 +56,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // Writes the field's own text past OnSetText.
+    // Writes the field's own text past OnSetText, keeping the modified flag.
     void _SetWindowText(const CString& text);
     void _Select(unsigned long sel);
     // Marks the field modified and tells the parent, when the text differs.
@@ -65,6 +65,10 @@ private:
     void _ShowEdit(const CString& before, const CString& text, unsigned long sel);
     CString _Text() const;
     bool _IsReadOnly() const;
+    bool _IsPassword() const;
+    // Read in full: the packed form stops at 65,535 characters.
+    bool _IsSelectionEmpty() const;
+    CString _SelectedText() const;
     bool _TakesFormattedEdits() const;
     // Cut and clear through the formatter's Delete; false when it leaves the
     // key to the native control.
@@ -86,9 +90,7 @@ private:
     bool _LegacyTextFull() const;
     void _InsertNatively(bool upperCase);
 
-    COLORREF m_crText;
-    COLORREF m_crBk;
-    CBrush m_brBk;
+    _kvControlColors m_Colors;
     kvEditFormatter* m_pFormatter;
     bool m_bSetTextPassThrough;
     kvFormatter* m_pOldFormatter;

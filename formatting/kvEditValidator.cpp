@@ -5,7 +5,7 @@
 #include "afx/CWnd.h"
 #include "formatting/kvChildKillFocus.h"
 #include "formatting/kvMessages.h"
-#include "formatting/kvSelection.h"
+#include "formatting/kvVerifyControl.h"
 
 #include <algorithm>
 
@@ -73,21 +73,7 @@ bool kvEditValidator::IsValidChild(CWnd* pChild)
         return true;
     m_bBusy = true;
     DWORD sel = 0;
-    const LRESULT verdict = pChild->SendMessage(WM_KV_VERIFY, reinterpret_cast<WPARAM>(&sel), 0);
-    if (verdict != Valid && pChild->GetDlgCtrlID() != IDCANCEL) {
-        _GiveFocusBack(pChild);
-        if (verdict == InvalidWithSelection)
-            pChild->SendMessage(EM_SETSEL, static_cast<WPARAM>(kvSelStart(sel)), kvSelEnd(sel));
-    }
+    const bool valid = kvVerifyControl(pChild, sel) == Valid;
     m_bBusy = false;
-    return verdict == Valid;
-}
-
-// Through the dialog manager, so that the dialog remembers where its focus is.
-void kvEditValidator::_GiveFocusBack(CWnd* pChild)
-{
-    if (CWnd* pParent = pChild->GetParent(); pParent != nullptr)
-        pParent->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pChild->GetSafeHwnd()), 1);
-    else
-        pChild->SetFocus();
+    return valid;
 }

@@ -37,7 +37,6 @@ private:
     // which then takes the field as its pending control.
     bool _NotSuperTarget(kvChildKillFocus* pRecord) const;
     bool _IsSuperTarget(CWnd* pWnd) const;
-    static void _GiveFocusBack(CWnd* pChild);
 
     bool m_bBusy;  // a field is being verified: focus messages it causes are ignored
     std::vector<HWND> m_SuperTargets;

@@ -10,11 +10,14 @@
 #include "afx/CWnd.h"
 
 namespace {
-// The thread object's own main window: none without a thread object.
+// The thread object's own main window: none without a thread object or before
+// the application has made its main window.
 HWND MainWindowOfCurrentThread()
 {
     const CWinThread* pThread = AfxGetThread();
-    return pThread != nullptr ? pThread->m_pMainWnd->GetSafeHwnd() : nullptr;
+    if (pThread == nullptr || pThread->m_pMainWnd == nullptr)
+        return nullptr;
+    return pThread->m_pMainWnd->GetSafeHwnd();
 }
 }  // namespace
 

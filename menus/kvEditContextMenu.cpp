@@ -36,8 +36,8 @@ void kvEditContextMenu::AppendDefaultMenu()
 {
     _AppendCommand(CMI_UNDO_LABEL, &kvEditContextMenu::DoUndo, &kvEditContextMenu::UndoAdvisor);
     _AppendSeparator();
-    _AppendCommand(CMI_CUT_LABEL, &kvEditContextMenu::DoCut, &kvEditContextMenu::CutCopyDeleteAdvisor);
-    _AppendCommand(CMI_COPY_LABEL, &kvEditContextMenu::DoCopy, &kvEditContextMenu::CutCopyDeleteAdvisor);
+    _AppendCommand(CMI_CUT_LABEL, &kvEditContextMenu::DoCut, &kvEditContextMenu::_CutCopyAdvisor);
+    _AppendCommand(CMI_COPY_LABEL, &kvEditContextMenu::DoCopy, &kvEditContextMenu::_CutCopyAdvisor);
     _AppendCommand(CMI_PASTE_LABEL, &kvEditContextMenu::DoPaste, &kvEditContextMenu::PasteAdvisor);
     _AppendCommand(CMI_DELETE_LABEL, &kvEditContextMenu::DoDelete, &kvEditContextMenu::CutCopyDeleteAdvisor);
     _AppendSeparator();
@@ -82,6 +82,14 @@ kvContextMenuItem::CMI_Flag kvEditContextMenu::CutCopyDeleteAdvisor(CWnd* pWnd, 
 {
     const Selection sel = ReadSelection(pWnd);
     return sel.start >= sel.end ? CMI_GRAYED : CMI_ENABLED;
+}
+
+// A password never reaches the clipboard: its field refuses cut and copy.
+kvContextMenuItem::CMI_Flag kvEditContextMenu::_CutCopyAdvisor(CWnd* pWnd, CPoint& point)
+{
+    if (pWnd->GetStyle() & ES_PASSWORD)
+        return CMI_GRAYED;
+    return CutCopyDeleteAdvisor(pWnd, point);
 }
 
 kvContextMenuItem::CMI_Flag kvEditContextMenu::SelectAdvisor(CWnd* pWnd, CPoint&)

@@ -35,4 +35,5 @@ private:
 
     void _AppendCommand(const CString& label, Command command, CommandAdvisor advisor);
     void _AppendSeparator();
+    CMI_Flag _CutCopyAdvisor(CWnd* pWnd, CPoint& point);
 };
