@@ -114,21 +114,7 @@ TEST(DateEditFormatter, SplitWidenRewriteAndCheck)
 {
     for (const ParseRow& row : kParsing) {
         SCOPED_TRACE(row.name);
-        const kvDateEditFormatter f(row.format);
-        const bool valid = row.raw != nullptr;
-        CString text(row.typed);
-        kvEditFormatterError err;
-        EXPECT_EQ(f.IsValid(text, &err), valid);
-        EXPECT_STREQ(text, row.shown);
-        EXPECT_STREQ(err.message, row.message);
-        EXPECT_EQ(err.selection, kvPackSel(row.selStart, row.selEnd));
-
-        CString quiet(row.typed);
-        EXPECT_EQ(f.IsValid(quiet, nullptr), valid) << "a null record gives the same verdict";
-        EXPECT_STREQ(quiet, row.shown);
-        CString raw(row.typed);
-        EXPECT_EQ(f.RawData(raw, nullptr), valid);
-        EXPECT_STREQ(raw, valid ? row.raw : row.shown);
+        ExpectValidation(kvDateEditFormatter(row.format), row.typed, row.shown, row.message, row.selStart, row.selEnd, row.raw);
     }
 }
 
@@ -202,12 +188,7 @@ TEST(DateEditFormatter, Typing)
 {
     for (const TypingRow& row : kTyping) {
         SCOPED_TRACE(row.name);
-        StatusRecorder status;
-        EXPECT_EQ(TypeKeys(kvDateEditFormatter(row.format), row.start, row.keys, row.overtype), row.expected);
-        if (StatusRecorder::CanObserveBeeps()) {
-            EXPECT_EQ(status.beeps, row.beeps);
-        }
-        EXPECT_TRUE(status.messages.empty());
+        ExpectTyping(kvDateEditFormatter(row.format), row.start, row.keys, row.overtype, row.expected, row.beeps);
     }
 }
 

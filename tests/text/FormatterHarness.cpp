@@ -1,6 +1,10 @@
 #include "FormatterHarness.h"
 
+#include "StatusRecorder.h"
+
 #include "afx/WinTypes.h"
+
+#include <gtest/gtest.h>
 
 FieldState ParseField(const std::string& marked)
 {
@@ -50,4 +54,34 @@ std::string TypeKeys(const kvEditFormatter& f, const std::string& start, const s
             f.DoChar(field.text, field.sel, overtype, static_cast<unsigned char>(key), 1, 0);
     }
     return ShowField(field.text, field.sel);
+}
+
+void ExpectValidation(const kvEditFormatter& f, const char* typed, const char* shown, const char* message,
+                      int selStart, int selEnd, const char* raw)
+{
+    const bool valid = raw != nullptr;
+    CString text(typed);
+    kvEditFormatterError err;
+    EXPECT_EQ(f.IsValid(text, &err), valid);
+    EXPECT_STREQ(text, shown);
+    EXPECT_STREQ(err.message, message);
+    EXPECT_EQ(err.selection, kvPackSel(selStart, selEnd));
+
+    CString quiet(typed);
+    EXPECT_EQ(f.IsValid(quiet, nullptr), valid) << "a null record gives the same verdict";
+    EXPECT_STREQ(quiet, shown);
+    CString rawText(typed);
+    EXPECT_EQ(f.RawData(rawText, nullptr), valid);
+    EXPECT_STREQ(rawText, valid ? raw : shown);
+}
+
+void ExpectTyping(const kvEditFormatter& f, const char* start, const char* keys, bool overtype,
+                  const char* expected, int beeps)
+{
+    StatusRecorder status;
+    EXPECT_EQ(TypeKeys(f, start, keys, overtype), expected);
+    if (StatusRecorder::CanObserveBeeps()) {
+        EXPECT_EQ(status.beeps, beeps);
+    }
+    EXPECT_TRUE(status.messages.empty());
 }

@@ -22,3 +22,13 @@ std::string ShowField(const CString& text, unsigned long sel);
 // Returns the field as ShowField prints it.
 std::string TypeKeys(const kvEditFormatter& f, const std::string& start, const std::string& keys,
                      bool overtype = false);
+
+// What every validation row checks: IsValid's verdict, the text it leaves and
+// the error record it fills, the same verdict and text without a record, and
+// RawData's result (raw null: refused, the text left as shown).
+void ExpectValidation(const kvEditFormatter& f, const char* typed, const char* shown, const char* message,
+                      int selStart, int selEnd, const char* raw);
+// What every typing row checks: the field after the keys, the beeps where they
+// can be counted, and no status message.
+void ExpectTyping(const kvEditFormatter& f, const char* start, const char* keys, bool overtype,
+                  const char* expected, int beeps);

@@ -2,7 +2,6 @@
 // characters (letters included), padding only without an error record, the raw
 // form, and typing with at most two hyphens.
 #include "FormatterHarness.h"
-#include "StatusRecorder.h"
 
 #include "formatting/kvSocSecEditFormatter.h"
 
@@ -98,11 +97,7 @@ TEST(SocSecEditFormatter, Typing)
 {
     for (const TypingRow& row : kTyping) {
         SCOPED_TRACE(row.name);
-        StatusRecorder status;
-        EXPECT_EQ(TypeKeys(kvSocSecEditFormatter(), row.start, row.keys, row.overtype), row.expected);
-        if (StatusRecorder::CanObserveBeeps()) {
-            EXPECT_EQ(status.beeps, row.beeps);
-        }
+        ExpectTyping(kvSocSecEditFormatter(), row.start, row.keys, row.overtype, row.expected, row.beeps);
     }
 }
 

@@ -1,7 +1,6 @@
 // Time formatter: splitting with and without ":", rewriting, the range checks
 // with their selections, the raw form in both directions, and typing.
 #include "FormatterHarness.h"
-#include "StatusRecorder.h"
 
 #include "formatting/kvTimeEditFormatter.h"
 
@@ -52,20 +51,7 @@ TEST(TimeEditFormatter, SplitRewriteAndCheck)
 {
     for (const ParseRow& row : kParsing) {
         SCOPED_TRACE(row.name);
-        const kvTimeEditFormatter f(row.format);
-        const bool valid = row.raw != nullptr;
-        CString text(row.typed);
-        kvEditFormatterError err;
-        EXPECT_EQ(f.IsValid(text, &err), valid);
-        EXPECT_STREQ(text, row.shown);
-        EXPECT_STREQ(err.message, row.message);
-        EXPECT_EQ(err.selection, kvPackSel(row.selStart, row.selEnd));
-
-        CString quiet(row.typed);
-        EXPECT_EQ(f.IsValid(quiet, nullptr), valid);
-        CString raw(row.typed);
-        EXPECT_EQ(f.RawData(raw, nullptr), valid);
-        EXPECT_STREQ(raw, valid ? row.raw : row.shown);
+        ExpectValidation(kvTimeEditFormatter(row.format), row.typed, row.shown, row.message, row.selStart, row.selEnd, row.raw);
     }
 }
 
@@ -119,11 +105,7 @@ TEST(TimeEditFormatter, Typing)
 {
     for (const TypingRow& row : kTyping) {
         SCOPED_TRACE(row.name);
-        StatusRecorder status;
-        EXPECT_EQ(TypeKeys(kvTimeEditFormatter(row.format), row.start, row.keys, row.overtype), row.expected);
-        if (StatusRecorder::CanObserveBeeps()) {
-            EXPECT_EQ(status.beeps, row.beeps);
-        }
+        ExpectTyping(kvTimeEditFormatter(row.format), row.start, row.keys, row.overtype, row.expected, row.beeps);
     }
 }
 
