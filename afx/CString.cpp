@@ -16,6 +16,11 @@ int LengthOf(const char* psz) noexcept
     return psz ? static_cast<int>(std::strlen(psz)) : 0;
 }
 
+int SignOf(int difference) noexcept
+{
+    return (difference > 0) - (difference < 0);
+}
+
 int Clamp(long long value, int low, int high) noexcept
 {
     return static_cast<int>(std::min<long long>(std::max<long long>(value, low), high));
@@ -344,9 +349,10 @@ CString& CString::TrimRight(const char* pszTargets)
     return *this;
 }
 
+// Exactly -1, 0 or 1, as MFC's runtime answers; the C library only promises the sign.
 int CString::Compare(const char* psz) const noexcept
 {
-    return std::strcmp(m_pchData, psz ? psz : "");
+    return SignOf(std::strcmp(m_pchData, psz ? psz : ""));
 }
 
 int CString::CompareNoCase(const char* psz) const noexcept
@@ -357,7 +363,7 @@ int CString::CompareNoCase(const char* psz) const noexcept
         const int ca = std::tolower(*a);
         const int cb = std::tolower(*b);
         if (ca != cb || ca == 0)
-            return ca - cb;
+            return SignOf(ca - cb);
     }
 }
 

@@ -104,8 +104,14 @@ TEST(CString, Searching)
         {"FindOneOf", s.FindOneOf(".,"), 1},
         {"GetAt out of range", s.GetAt(99), 0},
         {"Insert of NUL is a character", [] { CString t("ab"); return t.Insert(1, '\0'); }(), 3},
-        {"Compare", CString("a").Compare("b") < 0, 1},
+        {"Compare less is exactly -1", CString("a").Compare("c"), -1},
+        {"Compare greater is exactly 1", CString("c").Compare("a"), 1},
+        {"Compare longer is greater", CString("ab").Compare("a"), 1},
+        {"Compare high byte above ASCII", CString("\xFF").Compare("a"), 1},
+        {"Compare with null is with empty", CString("a").Compare(nullptr), 1},
         {"CompareNoCase", CString("ABC").CompareNoCase("abc"), 0},
+        {"CompareNoCase less is exactly -1", CString("A").CompareNoCase("c"), -1},
+        {"CompareNoCase greater is exactly 1", CString("abc").CompareNoCase("AB"), 1},
     };
     for (const auto& row : rows)
         EXPECT_EQ(row.got, row.expected) << row.name;
