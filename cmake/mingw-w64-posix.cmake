@@ -9,4 +9,7 @@ set(CMAKE_FIND_ROOT_PATH /usr/${triple})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+# Packages are searched under the MinGW root first, then as given: a package
+# installed elsewhere (-DCMAKE_PREFIX_PATH=<prefix>) is found where it lies, not
+# only below the root. Libraries and headers stay confined to the root.
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
