@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
   cmake make g++ clang libclang-rt-14-dev
   googletest libgtest-dev libbenchmark-dev qtbase5-dev libicu-dev
-  g++-mingw-w64-x86-64-posix wine wine64 xvfb xauth
+  g++-mingw-w64-x86-64-posix wine wine64 fonts-wine xvfb xauth
   xdotool x11-apps imagemagick
 )
 
