@@ -9,7 +9,7 @@ cmake --build build/host -j"$(nproc)" --target kvformat >/dev/null
 kvformat=build/host/tools/kvformat
 
 echo "Amounts (9 integers, 2 decimals, separators, rounding, at most 1,000,000):"
-printf '%s\n' 1234.567 -0042.5 "(1,234.50)" 12345678901 1000000.01 \
+printf '%s\n' 1234.567 -0042.5 "(1234.50)" 12a4 12345678901 1000000.01 \
   | "$kvformat" number --integers 9 --decimals 2 --separators --round --pad-decimals \
       --upper 1000000 --upper-kind inclusive || true
 echo

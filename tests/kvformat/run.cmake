@@ -73,7 +73,7 @@ kvformat_case("preset 2 pads and shows zero on exit" ARGS number --format 2 STDI
 kvformat_case("negative in parentheses" ARGS number --paren-negative --separators -1234.5
   STDOUT "(1,234.5)\t-1234.5\n" STATUS 0)
 kvformat_case("implied decimal" ARGS number --implied-decimal 12345 STDOUT "123.45\t123.45\n" STATUS 0)
-kvformat_case("rounding that would overflow is cut" ARGS number --integers 2 --round 99.999
+kvformat_case("rounding that would overflow is cut" ARGS number --lenient --integers 2 --round 99.999
   STDOUT "99.99\t99.99\n" STATUS 0)
 kvformat_case("limit given inline" ARGS number --lower=5 --upper=10 --upper-kind=exclusive 5 9.99
   STDOUT "5\t5\n9.99\t9.99\n" STATUS 0)
@@ -85,7 +85,7 @@ kvformat_case("date widened and padded" ARGS date 1524 7-4-76
 kvformat_case("date format by name" ARGS date --format DayMonthYearSlash 311224
   STDOUT "31/12/2024\t12312024\n" STATUS 0)
 kvformat_case("date format by number" ARGS date --format 15 124 STDOUT "01/2024\t01002024\n" STATUS 0)
-kvformat_case("clock time, letters and surplus seconds dropped" ARGS time 930 9a30 12:30:45
+kvformat_case("lenient clock time, letters and surplus seconds dropped" ARGS time --lenient 930 9a30 12:30:45
   STDOUT "9:30\t0930\n9:30\t0930\n12:30\t1230\n" STATUS 0)
 kvformat_case("time with seconds" ARGS time --format ClockHourMinuteSecond 93015 STDOUT "9:30:15\t093015\n" STATUS 0)
 kvformat_case("elapsed hours beyond a day" ARGS time --format 1 99:59 STDOUT "99:59\t9959\n" STATUS 0)
@@ -93,27 +93,30 @@ kvformat_case("identification numbers hyphenated" ARGS ssn 123456789 AB1234567 1
   STDOUT "123-45-6789\t123456789\nAB1-23-4567\tAB1234567\n123-45-6789\t123456789\n" STATUS 0)
 
 # --- invalid values: message, selection of the faulty characters, text -------
-kvformat_case("too many integer digits, sign not selected" ARGS number --integers 3 -12345.6
-  STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t1..6\t-12345.6\n"
+set(not_accepted "(counting from 1) is not accepted.")  # after a refused character and its position
+kvformat_case("too many integer digits, sign not selected" ARGS number --integers 3 -1234.5
+  STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t1..5\t-1234.5\n"
   STATUS 1)
-kvformat_case("error selection follows the separators" ARGS number --integers 3 --separators -12345.6
-  STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t1..7\t-12,345.6\n"
+kvformat_case("error selection follows the separators" ARGS number --integers 3 --separators -1234.5
+  STDOUT "error\tToo many digits before the decimal point. A maximum of 3 digits is allowed.\t1..6\t-1,234.5\n"
   STATUS 1)
 kvformat_case("too many decimals" ARGS number 1234.567
   STDOUT "error\tToo many digits after the decimal point. A maximum of 2 digits is allowed.\t5..8\t1234.567\n"
   STATUS 1)
-kvformat_case("whole-number field" ARGS number --integers 4 --decimals 0 12345
-  STDOUT "error\tToo many digits. A maximum of 4 digits is allowed.\t0..5\t12345\n" STATUS 1)
+kvformat_case("whole-number field refuses the fifth digit, with the reason" ARGS number --integers 4 --decimals 0 12345
+  STDOUT "error\tCharacter '5' at position 5 ${not_accepted} Too many digits. A maximum of 4 digits is \
+allowed.\t4..5\t12345\n"
+  STATUS 1)
 kvformat_case("upper limit inclusive" ARGS number --upper 100 100.5
   STDOUT "error\tValue must be less than or equal to 100.00.\t0..0\t100.5\n" STATUS 1)
 kvformat_case("lower limit exclusive, empty is zero" ARGS number --lower 0 --lower-kind exclusive 0
   STDOUT "error\tValue must be greater than 0.00.\t0..0\t\n" STATUS 1)
 kvformat_case("one invalid value among valid ones" ARGS number --decimals 0 1 2.5 3
-  STDOUT "1\t1\nerror\tToo many digits after the decimal point. A maximum of 0 digits is allowed.\t2..3\t2.5\n3\t3\n"
+  STDOUT "1\t1\nerror\tCharacter '.' at position 2 ${not_accepted}\t1..2\t2.5\n3\t3\n"
   STATUS 1)
 kvformat_case("string too short" ARGS string --min 2 --case upper " a "
   STDOUT "error\tNot enough characters. A minimum of 2 characters is required.\t0..1\tA\n" STATUS 1)
-kvformat_case("string too long" ARGS string --max 3 abcdef
+kvformat_case("lenient string too long" ARGS string --lenient --max 3 abcdef
   STDOUT "error\tToo many characters. A maximum of 3 characters is allowed.\t3..6\tabcdef\n" STATUS 1)
 
 kvformat_case("no such day" ARGS date 2/30/24
@@ -124,12 +127,47 @@ kvformat_case("year 0150 accepted but not stored" ARGS date --format YearOnly 01
 kvformat_case("hour past 23" ARGS time 2400 STDOUT "error\tInvalid hour.\t0..2\t24:00\n" STATUS 1)
 kvformat_case("minutes selected up to the seconds" ARGS time --format 2 9:75
   STDOUT "error\tInvalid minutes.\t2..4\t9:75:00\n" STATUS 1)
-kvformat_case("five digits do not split into a time" ARGS time 93015
+kvformat_case("five digits do not split into a time" ARGS time --lenient 93015
   STDOUT "error\tInvalid time.\t0..5\t93015\n" STATUS 1)
 kvformat_case("short number not padded" ARGS ssn 12345
   STDOUT "error\tNot enough digits. There must be 9 digits.\t0..5\t12345\n" STATUS 1)
-kvformat_case("long number" ARGS ssn 1234567890
+kvformat_case("long number" ARGS ssn --lenient 1234567890
   STDOUT "error\tToo many digits. There must be 9 digits.\t0..10\t1234567890\n" STATUS 1)
+
+# --- values pasted into an empty field first: a refused character fails ------
+string(ASCII 255 254 high_bytes)
+string(REPEAT "1" 70000 seventy_thousand_digits)
+kvformat_case("letter in a number" ARGS number --integers 5 --decimals 2 1x2
+  STDOUT "error\tCharacter 'x' at position 2 ${not_accepted}\t1..2\t1x2\n" STATUS 1
+  STDERR_CONTAINS "beep")
+kvformat_case("bytes before a number named in hex" ARGS number "${high_bytes}12"
+  STDOUT "error\tCharacter '\\\\xFF' at position 1 ${not_accepted}\t0..1\t${high_bytes}12\n" STATUS 1)
+kvformat_case("lenient validation drops the letter" ARGS number --lenient --integers 5 --decimals 2 1x2
+  STDOUT "12\t12\n" STATUS 0)
+kvformat_case("value too long for a field" ARGS number STDIN "${seventy_thousand_digits}\n"
+  STDOUT_CONTAINS "error\tThe value is longer than 65535 characters.\t65535..70000\t111" STATUS 1)
+kvformat_case("signs the number already shows taken, separators refused" ARGS number --paren-negative
+  "(12.5)" +7 "(1,234.5)"
+  STDOUT "(12.5)\t-12.5\n7\t7\nerror\tCharacter ',' at position 3 ${not_accepted}\t2..3\t(1,234.5)\n"
+  STATUS 1)
+kvformat_case("minus swallowed by a field without negatives" ARGS number --lower 0 -- -5
+  STDOUT "error\tCharacter '-' at position 1 ${not_accepted}\t0..1\t-5\n" STATUS 1)
+kvformat_case("string over its maximum, with the reason" ARGS string --max 3 abc abcd
+  STDOUT "abc\tabc\nerror\tCharacter 'd' at position 4 ${not_accepted} Too many characters. A maximum of 3 \
+characters is allowed.\t3..4\tabcd\n"
+  STATUS 1)
+kvformat_case("date typed with slashes, not with full stops" ARGS date --format MonthDayYearSlash 12/31/99 12.31.99
+  STDOUT "12/31/1999\t12311999\nerror\tCharacter '.' at position 3 ${not_accepted}\t2..3\t12.31.99\n"
+  STATUS 1)
+kvformat_case("time letter refused" ARGS time 9:30 9a30
+  STDOUT "9:30\t0930\nerror\tCharacter 'a' at position 2 ${not_accepted}\t1..2\t9a30\n" STATUS 1)
+kvformat_case("time surplus seconds refused" ARGS time 12:30:45
+  STDOUT "error\tCharacter ':' at position 6 ${not_accepted}\t5..6\t12:30:45\n" STATUS 1)
+kvformat_case("spaces type hyphens, other marks refused silently" ARGS ssn "123 45 6789" "123#45#6789"
+  STDOUT "123-45-6789\t123456789\nerror\tCharacter '#' at position 4 ${not_accepted}\t3..4\t123#45#6789\n"
+  STATUS 1)
+kvformat_case("lenient with another mode" ARGS number --lenient --type 1 STDOUT "" STATUS 2
+  STDERR_CONTAINS "--lenient and --type exclude each other")
 
 # --- raw values shown ---------------------------------------------------------
 kvformat_case("raw to display" ARGS number --separators --from-raw 1234567.5
@@ -178,8 +216,9 @@ kvformat_case("space and full stop type hyphens, a third beeps" ARGS ssn --type 
   STDOUT "123-45-6789\t11..11\n" STATUS 0 STDERR_CONTAINS "beep")
 
 # --- values from standard input, one a line -----------------------------------
-kvformat_case("stdin values" ARGS number --separators STDIN "1234\n-5.5\n12a\n\n"
-  STDOUT "1,234\t1234\n-5.5\t-5.5\n12\t12\n\t\n" STATUS 0)
+kvformat_case("stdin values, one refused" ARGS number --separators STDIN "1234\n-5.5\n12a\n\n"
+  STDOUT "1,234\t1234\n-5.5\t-5.5\nerror\tCharacter 'a' at position 3 ${not_accepted}\t2..3\t12a\n\t\n"
+  STATUS 1)
 kvformat_case("stdin with CRLF" ARGS string --case lower STDIN "AB\r\nCd\r\n" STDOUT "ab\tab\ncd\tcd\n" STATUS 0)
 kvformat_case("stdin keys" ARGS number --type STDIN "12\\b3\n" STDOUT "13\t2..2\n" STATUS 0)
 
@@ -224,6 +263,7 @@ kvformat_case("family help lists its options" ARGS number --help STDOUT_CONTAINS
 kvformat_case("date help lists the formats" ARGS date --help STDOUT_CONTAINS "17  YearOnly" STATUS 0)
 kvformat_case("time help lists the formats" ARGS time --help STDOUT_CONTAINS " 3  ElapsedHourMinuteSecond"
   STATUS 0)
+kvformat_case("help explains lenient" ARGS --help STDOUT_CONTAINS "  --lenient     validate VALUE as it is" STATUS 0)
 kvformat_case("family without options says so" ARGS ssn --help STDOUT_CONTAINS "):\n  none\n" STATUS 0)
 
 file(REMOVE "${stdin_file}")

@@ -35,24 +35,32 @@ void CommandLine::ReadFamily(const std::string& name)
     m_options = m_command->Options();
 }
 
-void CommandLine::SetMode(ValueMode mode)
+void CommandLine::SetMode(ValueMode mode, const std::string& option)
 {
-    if (m_mode != ValueMode::Validate && m_mode != mode)
-        throw UsageError("--from-raw and --type exclude each other");
+    if (m_mode != ValueMode::Paste && m_mode != mode)
+        throw UsageError("--" + m_modeOption + " and --" + option + " exclude each other");
     m_mode = mode;
+    m_modeOption = option;
 }
 
 bool CommandLine::ReadCommonOption(const std::string& name)
 {
-    if (name == "help")
+    static const struct {
+        const char* option;
+        ValueMode mode;
+    } kModes[] = {{"lenient", ValueMode::Lenient}, {"from-raw", ValueMode::FromRaw}, {"type", ValueMode::Type}};
+
+    if (name == "help") {
         m_help = true;
-    else if (name == "from-raw")
-        SetMode(ValueMode::FromRaw);
-    else if (name == "type")
-        SetMode(ValueMode::Type);
-    else
-        return false;
-    return true;
+        return true;
+    }
+    for (const auto& mode : kModes) {
+        if (name == mode.option) {
+            SetMode(mode.mode, name);
+            return true;
+        }
+    }
+    return false;
 }
 
 // "--name value" or "--name=value"; `next` is on the option and moves past its value.

@@ -10,7 +10,9 @@
 #include <string>
 #include <vector>
 
-enum class ValueMode { Validate, FromRaw, Type };
+// Paste (the default) puts a value into an empty field as a paste does before
+// validating it; Lenient validates the value as it is.
+enum class ValueMode { Paste, Lenient, FromRaw, Type };
 
 class CommandLine {
 public:
@@ -27,13 +29,14 @@ private:
     void ReadFamily(const std::string& name);
     void ReadOption(const std::string& argument, std::vector<std::string>::const_iterator& next,
                     std::vector<std::string>::const_iterator last);
-    void SetMode(ValueMode mode);
+    void SetMode(ValueMode mode, const std::string& option);
     bool ReadCommonOption(const std::string& name);
 
     bool m_help = false;
     const FamilyEntry* m_family = nullptr;
     std::unique_ptr<FamilyCommand> m_command;
     std::vector<FamilyOption> m_options;
-    ValueMode m_mode = ValueMode::Validate;
+    ValueMode m_mode = ValueMode::Paste;
+    std::string m_modeOption;  // the option that chose the mode
     std::vector<std::string> m_values;
 };

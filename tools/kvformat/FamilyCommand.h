@@ -11,6 +11,9 @@
 #include <string>
 #include <vector>
 
+// Selections hold 16-bit positions: no field text is longer.
+constexpr unsigned int kLongestFieldText = 65535;
+
 class FamilyCommand {
 public:
     FamilyCommand() = default;
@@ -28,4 +31,7 @@ public:
     // fixed shape whose refusal the formatter's validation cannot explain;
     // empty when the shape is right, or when validation explains every refusal.
     virtual std::string RawShapeMessage(const CString& /*raw*/) const { return {}; }
+    // True for a key the field takes even when it leaves text and caret as they
+    // were (a sign the text already shows); any other such key was refused.
+    virtual bool TakesWithoutChange(unsigned int /*key*/) const { return false; }
 };

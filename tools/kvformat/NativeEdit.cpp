@@ -42,3 +42,10 @@ void NativeEdit::KeyDown(CString& text, unsigned long& sel, unsigned int key)
     }
     sel = kvPackSel(start, end);
 }
+
+void NativeEdit::Paste(CString& text, unsigned long& sel, char ch)
+{
+    const int start = kvSelStart(sel);
+    text = text.Left(start) + ch + text.Mid(kvSelEnd(sel));
+    sel = kvPackSel(start + 1, start + 1);
+}

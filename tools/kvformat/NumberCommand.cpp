@@ -85,6 +85,9 @@ public:
         return formatter;
     }
 
+    // "+" on a positive number and ")" change nothing, yet the field takes them.
+    bool TakesWithoutChange(unsigned int key) const override { return key == '+' || key == ')'; }
+
 private:
     unsigned int m_integers = 9;
     unsigned int m_decimals = 2;

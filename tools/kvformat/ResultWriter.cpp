@@ -26,10 +26,7 @@ void ResultWriter::Escaped(std::ostream& stream, const CString& text)
     }
 }
 
-void ResultWriter::Selection(std::ostream& stream, unsigned long sel)
-{
-    stream << kvSelStart(sel) << ".." << kvSelEnd(sel);
-}
+void ResultWriter::Selection(std::ostream& stream, int start, int end) { stream << start << ".." << end; }
 
 void ResultWriter::Valid(const CString& display, const CString& raw)
 {
@@ -41,10 +38,15 @@ void ResultWriter::Valid(const CString& display, const CString& raw)
 
 void ResultWriter::Invalid(const kvEditFormatterError& err, const CString& text)
 {
+    Invalid(err.message, kvSelStart(err.selection), kvSelEnd(err.selection), text);
+}
+
+void ResultWriter::Invalid(const CString& message, int start, int end, const CString& text)
+{
     m_out << "error\t";
-    Escaped(m_out, err.message);
+    Escaped(m_out, message);
     m_out << '\t';
-    Selection(m_out, err.selection);
+    Selection(m_out, start, end);
     m_out << '\t';
     Escaped(m_out, text);
     m_out << '\n';
@@ -54,7 +56,7 @@ void ResultWriter::Field(const CString& text, unsigned long sel)
 {
     Escaped(m_out, text);
     m_out << '\t';
-    Selection(m_out, sel);
+    Selection(m_out, kvSelStart(sel), kvSelEnd(sel));
     m_out << '\n';
 }
 

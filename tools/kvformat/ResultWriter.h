@@ -18,13 +18,15 @@ public:
 
     void Valid(const CString& display, const CString& raw);
     void Invalid(const kvEditFormatterError& err, const CString& text);
+    // For faults a packed selection cannot mark: start and end may pass 65535.
+    void Invalid(const CString& message, int start, int end, const CString& text);
     void Field(const CString& text, unsigned long sel);
     void Status(const CString& message);
     void Beep();
 
 private:
     static void Escaped(std::ostream& stream, const CString& text);
-    static void Selection(std::ostream& stream, unsigned long sel);
+    static void Selection(std::ostream& stream, int start, int end);
 
     std::ostream& m_out;
     std::ostream& m_diag;

@@ -6,17 +6,15 @@
 
 namespace {
 
-constexpr unsigned int kLongestLength = 65535;  // selections hold 16-bit positions
-
 class StringCommand : public FamilyCommand {
 public:
     std::vector<FamilyOption> Options() override
     {
         return {
             {"max", "N", "maximum length, 0 for none (default 0)",
-             [this](const std::string& v) { m_maxLen = ReadCount("max", v, kLongestLength); }},
+             [this](const std::string& v) { m_maxLen = ReadCount("max", v, kLongestFieldText); }},
             {"min", "N", "minimum length, 0 for none (default 0)",
-             [this](const std::string& v) { m_minLen = ReadCount("min", v, kLongestLength); }},
+             [this](const std::string& v) { m_minLen = ReadCount("min", v, kLongestFieldText); }},
             {"case", "any|upper|lower", "case rule (default any)",
              [this](const std::string& v) {
                  m_case = static_cast<kvStrEditFormatter::AlphaFormat>(ReadChoice("case", v, {"any", "upper", "lower"}));

@@ -4,36 +4,21 @@
 #include "UsageError.h"
 #include "ValueRunner.h"
 
-#include "formatting/kvMessages.h"
-#include "formatting/kvStatus.h"
-#include "formatting/kvWinAMCtrlValidateInfo.h"
-
 #include <iostream>
 
 namespace {
-
-// The formatter's messages and beeps reach us as they would reach a main
-// window; queries (numeric presets) get no answer, so built-in defaults hold.
-void ListenToFormatter(ResultWriter& writer)
-{
-    kvSetStatusReceiver([&writer](WPARAM kind, LPARAM info) -> LRESULT {
-        if (kind == kvStatusShow && info)
-            writer.Status(reinterpret_cast<const kvWinAMCtrlValidateInfo*>(info)->message);
-        return 0;
-    });
-    kvSetBeepHook([&writer](unsigned int) { writer.Beep(); });
-}
 
 // True when the value passed.
 bool RunValue(ValueRunner& runner, ValueMode mode, const std::string& value)
 {
     const CString text(value.data(), static_cast<int>(value.size()));
     switch (mode) {
+    case ValueMode::Lenient: return runner.Validate(text);
     case ValueMode::FromRaw: return runner.FromRaw(text);
     case ValueMode::Type: runner.Type(KeyScript(value)); return true;
-    case ValueMode::Validate: break;
+    case ValueMode::Paste: break;
     }
-    return runner.Validate(text);
+    return runner.Paste(text);
 }
 
 int RunValues(const CommandLine& commandLine, ResultWriter& writer)
@@ -67,7 +52,6 @@ int main(int argc, char** argv)
             WriteHelp(std::cout, commandLine.Family());
             return 0;
         }
-        ListenToFormatter(writer);
         return RunValues(commandLine, writer);
     } catch (const UsageError& error) {
         std::cout.flush();
