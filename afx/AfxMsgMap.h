@@ -19,7 +19,6 @@
 class CCmdTarget;
 class CWnd;
 class CDC;
-class CMenu;
 class CScrollBar;
 
 // Marks message handlers in class declarations, as MFC code does.
@@ -63,7 +62,6 @@ struct AFX_CTLCOLOR {
 // object when there is one, otherwise a temporary one that lives until idle time.
 AFX_API CWnd* AfxWndFromHandle(HWND hWnd);
 AFX_API CDC* AfxDCFromHandle(HDC hDC);
-AFX_API CMenu* AfxMenuFromHandle(HMENU hMenu);
 AFX_API CScrollBar* AfxScrollBarFromHandle(HWND hWnd);
 
 #define DECLARE_MESSAGE_MAP()                           \
@@ -134,11 +132,6 @@ protected:                                              \
     AFX_ENTRY(WM_COMMAND, CN_COMMAND, id, idLast, nullptr,                                  \
               AFX_HANDLER(memberFxn, void, (UINT))(LOWORD(wParam)); return true;)
 
-// afx_msg BOOL OnCommandEx(UINT nID); FALSE lets later entries see the command.
-#define ON_COMMAND_EX(id, memberFxn)                                                        \
-    AFX_ENTRY(WM_COMMAND, CN_COMMAND, id, id, nullptr,                                      \
-              return AFX_HANDLER(memberFxn, BOOL, (UINT))(LOWORD(wParam)) != FALSE;)
-
 // afx_msg void OnNotificationCode();
 #define ON_CONTROL(wNotifyCode, id, memberFxn)                                              \
     AFX_ENTRY(WM_COMMAND, wNotifyCode, id, id, nullptr, AFX_HANDLER(memberFxn, void, ())(); return true;)
@@ -149,13 +142,8 @@ protected:                                              \
               AFX_HANDLER(memberFxn, void, (UINT))(LOWORD(wParam)); return true;)
 
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
-#define ON_BN_DOUBLECLICKED(id, memberFxn) ON_CONTROL(BN_DOUBLECLICKED, id, memberFxn)
-#define ON_BN_SETFOCUS(id, memberFxn) ON_CONTROL(BN_SETFOCUS, id, memberFxn)
-#define ON_BN_KILLFOCUS(id, memberFxn) ON_CONTROL(BN_KILLFOCUS, id, memberFxn)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_EN_UPDATE(id, memberFxn) ON_CONTROL(EN_UPDATE, id, memberFxn)
-#define ON_EN_SETFOCUS(id, memberFxn) ON_CONTROL(EN_SETFOCUS, id, memberFxn)
-#define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 #define ON_CBN_SELENDOK(id, memberFxn) ON_CONTROL(CBN_SELENDOK, id, memberFxn)
 #define ON_CBN_EDITCHANGE(id, memberFxn) ON_CONTROL(CBN_EDITCHANGE, id, memberFxn)
@@ -163,7 +151,6 @@ protected:                                              \
 #define ON_CBN_CLOSEUP(id, memberFxn) ON_CONTROL(CBN_CLOSEUP, id, memberFxn)
 #define ON_CBN_KILLFOCUS(id, memberFxn) ON_CONTROL(CBN_KILLFOCUS, id, memberFxn)
 #define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
-#define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
 
 // A control's own notification, reflected back to it by its parent.
 // afx_msg void OnNotificationCode();
@@ -191,13 +178,6 @@ protected:                                              \
               AFX_HANDLER(memberFxn, void, (UINT, NMHDR*, LRESULT*))(                       \
                   static_cast<UINT>(pNMHDR->idFrom), pNMHDR, pResult);                      \
               return true;)
-
-// afx_msg BOOL OnNotifyEx(UINT nID, NMHDR* pNotifyStruct, LRESULT* pResult);
-#define ON_NOTIFY_EX(wNotifyCode, id, memberFxn)                                            \
-    AFX_ENTRY(WM_NOTIFY, wNotifyCode, id, id, nullptr,                                      \
-              const auto pNMHDR = reinterpret_cast<NMHDR*>(lParam);                         \
-              return AFX_HANDLER(memberFxn, BOOL, (UINT, NMHDR*, LRESULT*))(                \
-                  static_cast<UINT>(pNMHDR->idFrom), pNMHDR, pResult) != FALSE;)
 
 // afx_msg void OnNotify(NMHDR* pNotifyStruct, LRESULT* pResult);
 #define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn)                                           \
@@ -237,19 +217,6 @@ protected:                                              \
                      reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));                        \
                  *pResult = TRUE)
 
-// afx_msg int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
-#define ON_WM_COMPAREITEM_REFLECT()                                                         \
-    AFX_WM_ENTRY(WM_REFLECT_BASE + WM_COMPAREITEM,                                          \
-                 *pResult = AFX_HANDLER(CompareItem, int, (LPCOMPAREITEMSTRUCT))(           \
-                     reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam)))
-
-// afx_msg void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
-#define ON_WM_DELETEITEM_REFLECT()                                                          \
-    AFX_WM_ENTRY(WM_REFLECT_BASE + WM_DELETEITEM,                                           \
-                 AFX_HANDLER(DeleteItem, void, (LPDELETEITEMSTRUCT))(                       \
-                     reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));                         \
-                 *pResult = TRUE)
-
 // afx_msg void HScroll(UINT nSBCode, UINT nPos);
 #define ON_WM_HSCROLL_REFLECT()                                                             \
     AFX_WM_ENTRY(WM_REFLECT_BASE + WM_HSCROLL,                                              \
@@ -281,9 +248,6 @@ protected:                                              \
 // afx_msg void OnPaint();
 #define ON_WM_PAINT() AFX_WM_ENTRY(WM_PAINT, AFX_HANDLER(OnPaint, void, ())())
 
-// afx_msg void OnNcPaint();
-#define ON_WM_NCPAINT() AFX_WM_ENTRY(WM_NCPAINT, AFX_HANDLER(OnNcPaint, void, ())())
-
 // afx_msg BOOL OnEraseBkgnd(CDC* pDC); nonzero when the background was erased.
 #define ON_WM_ERASEBKGND()                                                                  \
     AFX_WM_ENTRY(WM_ERASEBKGND, *pResult = AFX_HANDLER(OnEraseBkgnd, BOOL, (CDC*))(         \
@@ -307,8 +271,6 @@ protected:                                              \
 #define ON_WM_KEYDOWN() AFX_KEY_ENTRY(WM_KEYDOWN, OnKeyDown)
 #define ON_WM_KEYUP() AFX_KEY_ENTRY(WM_KEYUP, OnKeyUp)
 #define ON_WM_SYSKEYDOWN() AFX_KEY_ENTRY(WM_SYSKEYDOWN, OnSysKeyDown)
-#define ON_WM_SYSKEYUP() AFX_KEY_ENTRY(WM_SYSKEYUP, OnSysKeyUp)
-#define ON_WM_SYSCHAR() AFX_KEY_ENTRY(WM_SYSCHAR, OnSysChar)
 
 // afx_msg void OnSetFocus(CWnd* pOldWnd);
 #define ON_WM_SETFOCUS()                                                                    \
@@ -325,27 +287,11 @@ protected:                                              \
 #define ON_WM_LBUTTONDOWN() AFX_MOUSE_ENTRY(WM_LBUTTONDOWN, OnLButtonDown)
 #define ON_WM_LBUTTONUP() AFX_MOUSE_ENTRY(WM_LBUTTONUP, OnLButtonUp)
 #define ON_WM_LBUTTONDBLCLK() AFX_MOUSE_ENTRY(WM_LBUTTONDBLCLK, OnLButtonDblClk)
-#define ON_WM_RBUTTONDOWN() AFX_MOUSE_ENTRY(WM_RBUTTONDOWN, OnRButtonDown)
-#define ON_WM_RBUTTONUP() AFX_MOUSE_ENTRY(WM_RBUTTONUP, OnRButtonUp)
-#define ON_WM_RBUTTONDBLCLK() AFX_MOUSE_ENTRY(WM_RBUTTONDBLCLK, OnRButtonDblClk)
-#define ON_WM_MBUTTONDOWN() AFX_MOUSE_ENTRY(WM_MBUTTONDOWN, OnMButtonDown)
-#define ON_WM_MBUTTONUP() AFX_MOUSE_ENTRY(WM_MBUTTONUP, OnMButtonUp)
 #define ON_WM_MOUSEMOVE() AFX_MOUSE_ENTRY(WM_MOUSEMOVE, OnMouseMove)
-#define ON_WM_MOUSEHOVER() AFX_MOUSE_ENTRY(WM_MOUSEHOVER, OnMouseHover)
 
-// afx_msg void OnMouseLeave();
-#define ON_WM_MOUSELEAVE() AFX_WM_ENTRY(WM_MOUSELEAVE, AFX_HANDLER(OnMouseLeave, void, ())())
-
-// afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt); pt is in
-// screen coordinates.
-#define ON_WM_MOUSEWHEEL()                                                                  \
-    AFX_WM_ENTRY(WM_MOUSEWHEEL, *pResult = AFX_HANDLER(OnMouseWheel, BOOL, (UINT, short, CPoint))( \
-                                    GET_KEYSTATE_WPARAM(wParam), GET_WHEEL_DELTA_WPARAM(wParam), AFX_POINT_LPARAM))
-
-// The non-client mouse messages share one signature:
+// The non-client mouse message has the same signature:
 // afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
 #define ON_WM_NCLBUTTONDOWN() AFX_MOUSE_ENTRY(WM_NCLBUTTONDOWN, OnNcLButtonDown)
-#define ON_WM_NCMOUSEMOVE() AFX_MOUSE_ENTRY(WM_NCMOUSEMOVE, OnNcMouseMove)
 
 // afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos); pos is (-1, -1) from the keyboard.
 #define ON_WM_CONTEXTMENU()                                                                 \
@@ -383,52 +329,16 @@ protected:                                              \
     AFX_WM_ENTRY(WM_SHOWWINDOW, AFX_HANDLER(OnShowWindow, void, (BOOL, UINT))(              \
                                     static_cast<BOOL>(wParam), static_cast<UINT>(lParam)))
 
-// afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-#define ON_WM_ACTIVATE()                                                                    \
-    AFX_WM_ENTRY(WM_ACTIVATE, AFX_HANDLER(OnActivate, void, (UINT, CWnd*, BOOL))(           \
-                                  LOWORD(wParam), AfxWndFromHandle(reinterpret_cast<HWND>(lParam)), HIWORD(wParam) != 0))
-
-// afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
-#define ON_WM_ACTIVATEAPP()                                                                 \
-    AFX_WM_ENTRY(WM_ACTIVATEAPP, AFX_HANDLER(OnActivateApp, void, (BOOL, DWORD))(           \
-                                     static_cast<BOOL>(wParam), static_cast<DWORD>(lParam)))
-
-// afx_msg BOOL OnNcActivate(BOOL bActive);
-#define ON_WM_NCACTIVATE()                                                                  \
-    AFX_WM_ENTRY(WM_NCACTIVATE, *pResult = AFX_HANDLER(OnNcActivate, BOOL, (BOOL))(static_cast<BOOL>(wParam)))
-
-// afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
-#define ON_WM_MOUSEACTIVATE()                                                               \
-    AFX_WM_ENTRY(WM_MOUSEACTIVATE, *pResult = AFX_HANDLER(OnMouseActivate, int, (CWnd*, UINT, UINT))( \
-                                       AfxWndFromHandle(reinterpret_cast<HWND>(wParam)), LOWORD(lParam), HIWORD(lParam)))
-
 // afx_msg void OnClose();
 #define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, AFX_HANDLER(OnClose, void, ())())
 
 // afx_msg void OnSysColorChange();
 #define ON_WM_SYSCOLORCHANGE() AFX_WM_ENTRY(WM_SYSCOLORCHANGE, AFX_HANDLER(OnSysColorChange, void, ())())
 
-// afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
-#define ON_WM_SETTINGCHANGE()                                                               \
-    AFX_WM_ENTRY(WM_SETTINGCHANGE, AFX_HANDLER(OnSettingChange, void, (UINT, LPCTSTR))(     \
-                                       static_cast<UINT>(wParam), reinterpret_cast<LPCTSTR>(lParam)))
-
 // afx_msg void OnCaptureChanged(CWnd* pWnd); pWnd gains the capture.
 #define ON_WM_CAPTURECHANGED()                                                              \
     AFX_WM_ENTRY(WM_CAPTURECHANGED, AFX_HANDLER(OnCaptureChanged, void, (CWnd*))(           \
                                         AfxWndFromHandle(reinterpret_cast<HWND>(lParam))))
-
-// afx_msg void OnCancelMode();
-#define ON_WM_CANCELMODE() AFX_WM_ENTRY(WM_CANCELMODE, AFX_HANDLER(OnCancelMode, void, ())())
-
-// afx_msg LRESULT OnNcHitTest(CPoint point); point is in screen coordinates.
-#define ON_WM_NCHITTEST()                                                                   \
-    AFX_WM_ENTRY(WM_NCHITTEST, *pResult = AFX_HANDLER(OnNcHitTest, LRESULT, (CPoint))(AFX_POINT_LPARAM))
-
-// afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
-#define ON_WM_NCCALCSIZE()                                                                  \
-    AFX_WM_ENTRY(WM_NCCALCSIZE, AFX_HANDLER(OnNcCalcSize, void, (BOOL, NCCALCSIZE_PARAMS*))( \
-                                    static_cast<BOOL>(wParam), reinterpret_cast<NCCALCSIZE_PARAMS*>(lParam)))
 
 // The scroll messages share one signature:
 // afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -451,36 +361,8 @@ protected:                                              \
                                      static_cast<int>(wParam), reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam)); \
                  *pResult = TRUE)
 
-// afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
-#define ON_WM_INITMENUPOPUP()                                                               \
-    AFX_WM_ENTRY(WM_INITMENUPOPUP, AFX_HANDLER(OnInitMenuPopup, void, (CMenu*, UINT, BOOL))( \
-                                       AfxMenuFromHandle(reinterpret_cast<HMENU>(wParam)), LOWORD(lParam), HIWORD(lParam) != 0))
-
-// afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
-#define ON_WM_MENUSELECT()                                                                  \
-    AFX_WM_ENTRY(WM_MENUSELECT, AFX_HANDLER(OnMenuSelect, void, (UINT, UINT, HMENU))(       \
-                                    LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HMENU>(lParam)))
-
-// afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
-#define ON_WM_HELPINFO()                                                                    \
-    AFX_WM_ENTRY(WM_HELP, *pResult = AFX_HANDLER(OnHelpInfo, BOOL, (HELPINFO*))(reinterpret_cast<HELPINFO*>(lParam)))
-
 // afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
 #define ON_WM_WINDOWPOSCHANGING()                                                           \
     AFX_WM_ENTRY(WM_WINDOWPOSCHANGING, AFX_HANDLER(OnWindowPosChanging, void, (WINDOWPOS*))( \
                                            reinterpret_cast<WINDOWPOS*>(lParam)))
 
-// afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
-#define ON_WM_WINDOWPOSCHANGED()                                                            \
-    AFX_WM_ENTRY(WM_WINDOWPOSCHANGED, AFX_HANDLER(OnWindowPosChanged, void, (WINDOWPOS*))(  \
-                                          reinterpret_cast<WINDOWPOS*>(lParam)))
-
-// afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
-#define ON_WM_GETMINMAXINFO()                                                               \
-    AFX_WM_ENTRY(WM_GETMINMAXINFO, AFX_HANDLER(OnGetMinMaxInfo, void, (MINMAXINFO*))(       \
-                                       reinterpret_cast<MINMAXINFO*>(lParam)))
-
-// afx_msg void OnParentNotify(UINT message, LPARAM lParam);
-#define ON_WM_PARENTNOTIFY()                                                                \
-    AFX_WM_ENTRY(WM_PARENTNOTIFY, AFX_HANDLER(OnParentNotify, void, (UINT, LPARAM))(        \
-                                      static_cast<UINT>(wParam), lParam))

@@ -211,7 +211,6 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnNcDestroy();
     afx_msg void OnPaint();
-    afx_msg void OnNcPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnMove(int x, int y);
@@ -219,24 +218,13 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnSysKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnMButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnMButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnMouseHover(UINT nFlags, CPoint point);
-    afx_msg void OnMouseLeave();
-    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
-    afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point);
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
@@ -244,28 +232,14 @@ protected:
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnEnable(BOOL bEnable);
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-    afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
-    afx_msg BOOL OnNcActivate(BOOL bActive);
-    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg void OnClose();
     afx_msg void OnSysColorChange();
-    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
-    afx_msg void OnCancelMode();
-    afx_msg LRESULT OnNcHitTest(CPoint point);
-    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
-    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
-    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
-    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
     afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
-    afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
-    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
-    afx_msg void OnParentNotify(UINT message, LPARAM lParam);
 
 private:
     // The window procedure of every framework window.

@@ -5,7 +5,6 @@
 #include "WindowTest.h"
 
 #include "afx/CDC.h"
-#include "afx/CMenu.h"
 #include "afx/CScrollBar.h"
 #include "afx/CWnd.h"
 
@@ -21,7 +20,6 @@ enum Placeholder : LPARAM {
     kSelf = 0x7F01,
     kPeer,
     kDC,
-    kMenu,
     kRecord,       // the record the message carries (DRAWITEMSTRUCT, text ...)
     kWhiteBrush,
     kRegistered,   // the registered message
@@ -34,7 +32,6 @@ public:
     std::vector<std::string> calls;
     HWND hWndPeer = nullptr;
     HDC hDC = nullptr;
-    HMENU hMenu = nullptr;
 
 protected:
     template <class... Args>
@@ -54,25 +51,15 @@ protected:
         return hWnd == nullptr ? "null" : hWnd == m_hWnd ? "self" : hWnd == hWndPeer ? "peer" : "other";
     }
     std::string Name(CDC* pDC) const { return pDC->GetSafeHdc() == hDC ? "dc" : "other dc"; }
-    std::string Name(HMENU h) const { return h == hMenu ? "menu" : "other menu"; }
 
     afx_msg void OnChar(UINT c, UINT n, UINT f) { Record("OnChar", c, n, f); }
     afx_msg void OnKeyDown(UINT c, UINT n, UINT f) { Record("OnKeyDown", c, n, f); }
     afx_msg void OnKeyUp(UINT c, UINT n, UINT f) { Record("OnKeyUp", c, n, f); }
     afx_msg void OnSysKeyDown(UINT c, UINT n, UINT f) { Record("OnSysKeyDown", c, n, f); }
-    afx_msg void OnSysChar(UINT c, UINT n, UINT f) { Record("OnSysChar", c, n, f); }
     afx_msg void OnLButtonDown(UINT f, CPoint p) { Record("OnLButtonDown", f, p.x, p.y); }
     afx_msg void OnLButtonUp(UINT f, CPoint p) { Record("OnLButtonUp", f, p.x, p.y); }
     afx_msg void OnLButtonDblClk(UINT f, CPoint p) { Record("OnLButtonDblClk", f, p.x, p.y); }
-    afx_msg void OnRButtonDown(UINT f, CPoint p) { Record("OnRButtonDown", f, p.x, p.y); }
-    afx_msg void OnRButtonUp(UINT f, CPoint p) { Record("OnRButtonUp", f, p.x, p.y); }
     afx_msg void OnMouseMove(UINT f, CPoint p) { Record("OnMouseMove", f, p.x, p.y); }
-    afx_msg BOOL OnMouseWheel(UINT f, short delta, CPoint p)
-    {
-        Record("OnMouseWheel", f, delta, p.x, p.y);
-        return TRUE;
-    }
-    afx_msg void OnMouseLeave() { Record("OnMouseLeave"); }
     afx_msg void OnSize(UINT type, int cx, int cy) { Record("OnSize", type, cx, cy); }
     afx_msg void OnMove(int x, int y) { Record("OnMove", x, y); }
     afx_msg void OnSetFocus(CWnd* pOld) { Record("OnSetFocus", Name(pOld)); }
@@ -96,36 +83,14 @@ protected:
     }
     afx_msg void OnEnable(BOOL enable) { Record("OnEnable", enable); }
     afx_msg void OnShowWindow(BOOL show, UINT status) { Record("OnShowWindow", show, status); }
-    afx_msg void OnActivate(UINT state, CWnd* pOther, BOOL minimized)
-    {
-        Record("OnActivate", state, Name(pOther), minimized);
-    }
-    afx_msg void OnActivateApp(BOOL active, DWORD thread) { Record("OnActivateApp", active, thread); }
     afx_msg void OnClose() { Record("OnClose"); }
     afx_msg void OnSysColorChange() { Record("OnSysColorChange"); }
-    afx_msg void OnSettingChange(UINT flags, LPCTSTR section) { Record("OnSettingChange", flags, section); }
     afx_msg void OnCaptureChanged(CWnd* pWnd) { Record("OnCaptureChanged", Name(pWnd)); }
-    afx_msg void OnCancelMode() { Record("OnCancelMode"); }
-    afx_msg LRESULT OnNcHitTest(CPoint p)
-    {
-        Record("OnNcHitTest", p.x, p.y);
-        return HTCAPTION;
-    }
     afx_msg void OnHScroll(UINT code, UINT pos, CScrollBar* pBar) { Record("OnHScroll", code, pos, Name(pBar)); }
     afx_msg void OnVScroll(UINT code, UINT pos, CScrollBar* pBar) { Record("OnVScroll", code, pos, Name(pBar)); }
     afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT p) { Record("OnDrawItem", id, p->itemID); }
     afx_msg void OnMeasureItem(int id, LPMEASUREITEMSTRUCT p) { Record("OnMeasureItem", id, p->itemID); }
-    afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT index, BOOL sys)
-    {
-        Record("OnInitMenuPopup", Name(pMenu->GetSafeHmenu()), index, sys);
-    }
-    afx_msg void OnMenuSelect(UINT item, UINT flags, HMENU h) { Record("OnMenuSelect", item, flags, Name(h)); }
-    afx_msg BOOL OnHelpInfo(HELPINFO* p)
-    {
-        Record("OnHelpInfo", p->iCtrlId);
-        return TRUE;
-    }
-    afx_msg void OnWindowPosChanged(WINDOWPOS* p) { Record("OnWindowPosChanged", p->x, p->y); }
+    afx_msg void OnWindowPosChanging(WINDOWPOS* p) { Record("OnWindowPosChanging", p->x, p->y); }
     afx_msg void OnPaint() { Record("OnPaint"); }
     afx_msg BOOL OnEraseBkgnd(CDC* pDC)
     {
@@ -136,11 +101,6 @@ protected:
     {
         Record("OnSetText", reinterpret_cast<const char*>(lParam));
         return TRUE;
-    }
-    afx_msg LRESULT OnThemeChanged(WPARAM, LPARAM)
-    {
-        Record("OnThemeChanged");
-        return 0;
     }
     afx_msg LRESULT OnRegistered(WPARAM wParam, LPARAM lParam)
     {
@@ -156,15 +116,10 @@ BEGIN_MESSAGE_MAP(CrackerWnd, CWnd)
     ON_WM_KEYDOWN()
     ON_WM_KEYUP()
     ON_WM_SYSKEYDOWN()
-    ON_WM_SYSCHAR()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
     ON_WM_LBUTTONDBLCLK()
-    ON_WM_RBUTTONDOWN()
-    ON_WM_RBUTTONUP()
     ON_WM_MOUSEMOVE()
-    ON_WM_MOUSEWHEEL()
-    ON_WM_MOUSELEAVE()
     ON_WM_SIZE()
     ON_WM_MOVE()
     ON_WM_SETFOCUS()
@@ -176,26 +131,17 @@ BEGIN_MESSAGE_MAP(CrackerWnd, CWnd)
     ON_WM_GETDLGCODE()
     ON_WM_ENABLE()
     ON_WM_SHOWWINDOW()
-    ON_WM_ACTIVATE()
-    ON_WM_ACTIVATEAPP()
     ON_WM_CLOSE()
     ON_WM_SYSCOLORCHANGE()
-    ON_WM_SETTINGCHANGE()
     ON_WM_CAPTURECHANGED()
-    ON_WM_CANCELMODE()
-    ON_WM_NCHITTEST()
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_DRAWITEM()
     ON_WM_MEASUREITEM()
-    ON_WM_INITMENUPOPUP()
-    ON_WM_MENUSELECT()
-    ON_WM_HELPINFO()
-    ON_WM_WINDOWPOSCHANGED()
+    ON_WM_WINDOWPOSCHANGING()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_MESSAGE(WM_SETTEXT, OnSetText)
-    ON_MESSAGE(WM_THEMECHANGED, OnThemeChanged)
     ON_REGISTERED_MESSAGE(kRegisteredMessage, OnRegistered)
 END_MESSAGE_MAP()
 
@@ -214,18 +160,12 @@ const CrackerRow kCrackers[] = {
     {"key up keeps its transition flags", WM_KEYUP, VK_RETURN, MAKELPARAM(1, KF_UP | KF_REPEAT | 0x1C),
      "OnKeyUp(13,1,49180)", 0},
     {"system key down", WM_SYSKEYDOWN, VK_F4, MAKELPARAM(1, KF_ALTDOWN | 0x3E), "OnSysKeyDown(115,1,8254)", 0},
-    {"system character", WM_SYSCHAR, 'x', MAKELPARAM(1, KF_ALTDOWN), "OnSysChar(120,1,8192)", 0},
     {"left button down with Shift", WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(10, 20),
      "OnLButtonDown(5,10,20)", 0},
     {"left button up", WM_LBUTTONUP, 0, MAKELPARAM(1, 2), "OnLButtonUp(0,1,2)", 0},
     {"double click", WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(3, 4), "OnLButtonDblClk(1,3,4)", 0},
-    {"right button down", WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 6), "OnRButtonDown(2,5,6)", 0},
-    {"right button up", WM_RBUTTONUP, 0, MAKELPARAM(7, 8), "OnRButtonUp(0,7,8)", 0},
     {"mouse above and left of the client area is negative", WM_MOUSEMOVE, 0, MAKELPARAM(-5, -7),
      "OnMouseMove(0,-5,-7)", 0},
-    {"wheel turned towards the user with Ctrl", WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, -120), MAKELPARAM(300, 400),
-     "OnMouseWheel(8,-120,300,400)", TRUE},
-    {"mouse left", WM_MOUSELEAVE, 0, 0, "OnMouseLeave()", 0},
     {"maximized size", WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(640, 480), "OnSize(2,640,480)", 0},
     {"moved partly off screen", WM_MOVE, 0, MAKELPARAM(-20, 30), "OnMove(-20,30)", 0},
     {"focus from the peer", WM_SETFOCUS, kPeer, 0, "OnSetFocus(peer)", 0},
@@ -239,28 +179,18 @@ const CrackerRow kCrackers[] = {
     {"dialog code", WM_GETDLGCODE, 0, 0, "OnGetDlgCode()", DLGC_WANTCHARS | DLGC_WANTARROWS},
     {"disabled", WM_ENABLE, FALSE, 0, "OnEnable(0)", 0},
     {"shown as the parent opens", WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "OnShowWindow(1,3)", 0},
-    {"activated by a click while minimized", WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), kPeer,
-     "OnActivate(2,peer,1)", 0},
-    {"application activated", WM_ACTIVATEAPP, TRUE, 1234, "OnActivateApp(1,1234)", 0},
     {"close", WM_CLOSE, 0, 0, "OnClose()", 0},
     {"system colours changed", WM_SYSCOLORCHANGE, 0, 0, "OnSysColorChange()", 0},
-    {"setting changed in a section", WM_SETTINGCHANGE, 42, kRecord, "OnSettingChange(42,intl)", 0},
     {"capture taken by the peer", WM_CAPTURECHANGED, 0, kPeer, "OnCaptureChanged(peer)", 0},
-    {"cancel mode", WM_CANCELMODE, 0, 0, "OnCancelMode()", 0},
-    {"hit test at a screen point", WM_NCHITTEST, 0, MAKELPARAM(-3, 9), "OnNcHitTest(-3,9)", HTCAPTION},
     {"thumb tracked on the window's own scroll bar", WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0,
      "OnHScroll(5,55,null)", 0},
     {"line down on a scroll-bar control", WM_VSCROLL, SB_LINEDOWN, kPeer, "OnVScroll(1,0,peer)", 0},
     {"owner draw", WM_DRAWITEM, 12, kRecord, "OnDrawItem(12,3)", TRUE},
     {"owner measure", WM_MEASUREITEM, 12, kRecord, "OnMeasureItem(12,4)", TRUE},
-    {"popup menu opening", WM_INITMENUPOPUP, kMenu, MAKELPARAM(2, 1), "OnInitMenuPopup(menu,2,1)", 0},
-    {"menu item selected", WM_MENUSELECT, MAKEWPARAM(100, MF_POPUP), kMenu, "OnMenuSelect(100,16,menu)", 0},
-    {"help asked", WM_HELP, 0, kRecord, "OnHelpInfo(77)", TRUE},
-    {"position changed", WM_WINDOWPOSCHANGED, 0, kRecord, "OnWindowPosChanged(11,22)", 0},
+    {"position changing", WM_WINDOWPOSCHANGING, 0, kRecord, "OnWindowPosChanging(11,22)", 0},
     {"paint", WM_PAINT, 0, 0, "OnPaint()", 0},
     {"background erased", WM_ERASEBKGND, kDC, 0, "OnEraseBkgnd(dc)", TRUE},
     {"text through ON_MESSAGE", WM_SETTEXT, 0, kRecord, "OnSetText(hello)", TRUE},
-    {"theme change through ON_MESSAGE", WM_THEMECHANGED, 0, 0, "OnThemeChanged()", 0},
     {"registered message", kRegistered, 5, 6, "OnRegistered(5,6)", 11},
     {"a message without an entry reaches the window's procedure", WM_GETTEXTLENGTH, 0, 0, "", 7},
 };
@@ -272,14 +202,11 @@ protected:
         m_hWndPeer = ::CreateWindowExA(0, "STATIC", "peer", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
         m_wnd.hWndPeer = m_hWndPeer;
         m_wnd.hDC = m_hDC = ::CreateCompatibleDC(nullptr);
-        m_wnd.hMenu = m_hMenu = ::CreatePopupMenu();
         ASSERT_TRUE(m_wnd.CreateEx(0, nullptr, "cracker", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
         m_records = {
-            {WM_SETTINGCHANGE, reinterpret_cast<LPARAM>("intl")},
             {WM_DRAWITEM, reinterpret_cast<LPARAM>(&m_drawItem)},
             {WM_MEASUREITEM, reinterpret_cast<LPARAM>(&m_measureItem)},
-            {WM_HELP, reinterpret_cast<LPARAM>(&m_helpInfo)},
-            {WM_WINDOWPOSCHANGED, reinterpret_cast<LPARAM>(&m_windowPos)},
+            {WM_WINDOWPOSCHANGING, reinterpret_cast<LPARAM>(&m_windowPos)},
             {WM_SETTEXT, reinterpret_cast<LPARAM>("hello")},
         };
     }
@@ -289,7 +216,6 @@ protected:
         m_wnd.DestroyWindow();
         ::DestroyWindow(m_hWndPeer);
         ::DeleteDC(m_hDC);
-        ::DestroyMenu(m_hMenu);
         WindowTest::TearDown();
     }
 
@@ -299,7 +225,6 @@ protected:
         case kSelf: return reinterpret_cast<LPARAM>(m_wnd.m_hWnd);
         case kPeer: return reinterpret_cast<LPARAM>(m_hWndPeer);
         case kDC: return reinterpret_cast<LPARAM>(m_hDC);
-        case kMenu: return reinterpret_cast<LPARAM>(m_hMenu);
         case kRecord: return m_records.at(message);
         case kWhiteBrush: return reinterpret_cast<LPARAM>(::GetStockObject(WHITE_BRUSH));
         case kRegistered: return kRegisteredMessage;
@@ -310,11 +235,9 @@ protected:
     CrackerWnd m_wnd;
     HWND m_hWndPeer = nullptr;
     HDC m_hDC = nullptr;
-    HMENU m_hMenu = nullptr;
     // The peer has no framework object, so nothing is reflected to it.
     DRAWITEMSTRUCT m_drawItem{ODT_BUTTON, 12, 3, ODA_DRAWENTIRE, 0, nullptr, nullptr, {}, 0};
     MEASUREITEMSTRUCT m_measureItem{ODT_LISTBOX, 12, 4, 0, 0, 0};
-    HELPINFO m_helpInfo{sizeof(HELPINFO), HELPINFO_WINDOW, 77, nullptr, 0, {0, 0}};
     WINDOWPOS m_windowPos{nullptr, nullptr, 11, 22, 30, 40, 0};
     std::map<UINT, LPARAM> m_records;
 };
