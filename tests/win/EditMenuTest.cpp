@@ -56,31 +56,19 @@ public:
 
 enum class Clip { Text, Empty, OtherFormat };
 
-void SetClipboard(HWND owner, Clip clip)
+void SetClipboard(Clip clip)
 {
-    ASSERT_TRUE(OpenClipboard(owner));
+    if (clip != Clip::OtherFormat) {
+        SetClipboardText(clip == Clip::Text ? "XY" : nullptr);
+        return;
+    }
+    ASSERT_TRUE(OpenClipboard(nullptr));
     EmptyClipboard();
-    const char* data = clip == Clip::Text ? "XY" : "private";
-    if (clip != Clip::Empty) {
-        HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, 8);
-        lstrcpyA(static_cast<char*>(GlobalLock(memory)), data);
-        GlobalUnlock(memory);
-        SetClipboardData(clip == Clip::Text ? CF_TEXT : RegisterClipboardFormatA("kvWin test"), memory);
-    }
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, 8);
+    lstrcpyA(static_cast<char*>(GlobalLock(memory)), "private");
+    GlobalUnlock(memory);
+    SetClipboardData(RegisterClipboardFormatA("kvWin test"), memory);
     CloseClipboard();
-}
-
-std::string ClipboardText(HWND owner)
-{
-    std::string text;
-    if (!OpenClipboard(owner))
-        return text;
-    if (HANDLE data = GetClipboardData(CF_TEXT)) {
-        text = static_cast<const char*>(GlobalLock(data));
-        GlobalUnlock(data);
-    }
-    CloseClipboard();
-    return text;
 }
 
 class EditMenu : public WindowTest {
@@ -89,12 +77,6 @@ protected:
     {
         g_parentHitTest = 0;
         ASSERT_TRUE(m_parent.CreateEx(0, ParentClass(), "edit host", WS_POPUP, 0, 0, 300, 120, nullptr, nullptr));
-    }
-
-    void TearDown() override
-    {
-        SetClipboard(m_parent, Clip::Empty);
-        WindowTest::TearDown();
     }
 
     // The edit holds text + typed, typed entered as an undoable change.
@@ -110,6 +92,7 @@ protected:
 
     PopupRun Show(kvContextMenu& menu, const char* keys = "esc") { return RunPopup(menu, &m_edit, keys); }
 
+    ClipboardKeeper m_clipboard;
     CWnd m_parent;
     CEdit m_edit;
 };
@@ -147,7 +130,7 @@ TEST_F(EditMenu, ItemsFollowTheEditState)
 {
     for (const EnablingRow& row : kEnabling) {
         SCOPED_TRACE(row.name);
-        SetClipboard(m_parent, row.clip);
+        SetClipboard(row.clip);
         CreateEdit(0, row.style, row.text, row.typed, row.selStart, row.selEnd);
         kvEditContextMenu menu;
         menu.AppendDefaultMenu();
@@ -253,7 +236,7 @@ TEST_F(EditMenu, ChosenCommandReachesTheEdit)
 {
     for (const CommandRow& row : kCommands) {
         SCOPED_TRACE(row.name);
-        SetClipboard(m_parent, Clip::Text);
+        SetClipboard(Clip::Text);
         CreateEdit(0, 0, "ab", "c", 1, 2);
         MessageLog log;
         MessageRecorder recorder(log, {WM_CUT, WM_COPY, WM_PASTE, WM_CLEAR, WM_UNDO, EM_SETSEL});
@@ -270,7 +253,7 @@ TEST_F(EditMenu, ChosenCommandReachesTheEdit)
         m_edit.GetSel(start, end);
         EXPECT_EQ(start, row.selStart);
         EXPECT_EQ(end, row.selEnd);
-        EXPECT_EQ(ClipboardText(m_parent), row.clipboard);
+        EXPECT_EQ(ClipboardText(), row.clipboard);
     }
 }
 

@@ -1,13 +1,10 @@
 #include "FieldHarness.h"
 
-#include "RealInput.h"
-
 #include "buttons/kvButton.h"
 #include "formatting/kvEdit.h"
 #include "formatting/kvMessages.h"
 #include "formatting/kvStatus.h"
 
-#include <vector>
 
 const UINT WM_TEST_REGISTER_SUPER_TARGET = ::RegisterWindowMessageA("kvWin test: register super target");
 
@@ -128,77 +125,3 @@ BeepRecorder::BeepRecorder()
 
 // -1 tells a test that beeps could not be counted.
 int BeepRecorder::Count() const { return m_patch.Active() ? g_beeps : -1; }
-
-// ---- clipboard ----
-
-ClipboardKeeper::ClipboardKeeper() : m_hadText(::IsClipboardFormatAvailable(CF_TEXT) != FALSE)
-{
-    if (m_hadText)
-        m_text = ClipboardText();
-}
-
-ClipboardKeeper::~ClipboardKeeper() { SetClipboardText(m_hadText ? m_text.c_str() : nullptr); }
-
-// ---- context menu ----
-
-namespace {
-
-struct MenuSession {
-    std::string keys;
-    std::string entries;
-    bool keysSent = false;
-};
-MenuSession g_session;
-
-std::string DescribeItem(HMENU hMenu, int index)
-{
-    char text[64] = "";
-    MENUITEMINFOA info{};
-    info.cbSize = sizeof info;
-    info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_STRING;
-    info.dwTypeData = text;
-    info.cch = sizeof text;
-    ::GetMenuItemInfoA(hMenu, static_cast<UINT>(index), TRUE, &info);
-    if (info.fType & MFT_SEPARATOR)
-        return "-";
-    return std::string(text) + ((info.fState & MFS_GRAYED) ? " (grayed)" : "");
-}
-
-// Keys go in as real input once the menu waits for them.
-LRESULT CALLBACK WatchMenu(int code, WPARAM wParam, LPARAM lParam)
-{
-    const CWPSTRUCT& msg = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-    if (code == HC_ACTION && msg.message == WM_INITMENUPOPUP) {
-        const auto hMenu = reinterpret_cast<HMENU>(msg.wParam);
-        for (int i = 0; i < ::GetMenuItemCount(hMenu); ++i)
-            g_session.entries += (i ? "|" : "") + DescribeItem(hMenu, i);
-    }
-    if (code == HC_ACTION && msg.message == WM_ENTERIDLE && msg.wParam == MSGF_MENU && !g_session.keysSent) {
-        g_session.keysSent = true;
-        std::vector<INPUT> inputs;
-        for (const char ch : g_session.keys) {
-            for (const DWORD flags : {DWORD(0), DWORD(KEYEVENTF_KEYUP)}) {
-                INPUT input{};
-                input.type = INPUT_KEYBOARD;
-                input.ki.wVk = LOBYTE(::VkKeyScanA(ch));
-                input.ki.dwFlags = flags;
-                inputs.push_back(input);
-            }
-        }
-        ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-    }
-    return ::CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
-}  // namespace
-
-std::string ChooseFromContextMenu(const std::string& keys)
-{
-    g_session = MenuSession();
-    g_session.keys = keys;
-    HHOOK hHook = ::SetWindowsHookExA(WH_CALLWNDPROC, &WatchMenu, nullptr, ::GetCurrentThreadId());
-    PressKey(VK_F10, true);
-    flushEvents();
-    ::UnhookWindowsHookEx(hHook);
-    return g_session.entries;
-}

@@ -1,12 +1,13 @@
 // FieldHarness: what the tests of the formatted edit field, its validation and
 // the validating button share: a dialog wired to a validator the way an
-// application wires one, a recorder of the library's beeps, the clipboard kept
-// for the test's duration, and a context menu driven from the keyboard.
+// application wires one, and a recorder of the library's beeps.
 #pragma once
 
 #include "HostDialog.h"
 #include "ImportPatch.h"
+#include "MenuDriver.h"
 #include "MessageLog.h"
+#include "RealInput.h"
 
 #include "formatting/kvEditValidator.h"
 #include "formatting/kvStrEditFormatter.h"
@@ -97,22 +98,3 @@ public:
 private:
     ImportPatch m_patch;
 };
-
-// Puts the clipboard's text back when the test ends.
-class ClipboardKeeper {
-public:
-    ClipboardKeeper();
-    ~ClipboardKeeper();
-    ClipboardKeeper(const ClipboardKeeper&) = delete;
-    ClipboardKeeper& operator=(const ClipboardKeeper&) = delete;
-
-private:
-    std::string m_text;
-    bool m_hadText = false;
-};
-
-
-// Opens the focused window's context menu with Shift+F10 and, once it is open,
-// types keys into it (mnemonics, '\r', '\x1b'). Returns the items it showed:
-// "Cu&t (grayed)|-|&Paste", labels of hidden items absent.
-std::string ChooseFromContextMenu(const std::string& keys);

@@ -3,6 +3,8 @@
 // where the menu loop picks them up.
 #include "MenuDriver.h"
 
+#include "RealInput.h"
+
 #include "afx/CWnd.h"
 #include "menus/kvContextMenu.h"
 
@@ -17,15 +19,15 @@ struct KeyPress {
 };
 
 struct Tracking {
-    HWND owner;
     std::vector<KeyPress> keys;
-    PopupRun* run;
+    bool withIds;
+    std::string entries;
     bool described, keysSent;
 };
 
 Tracking g_tracking;
 
-std::vector<KeyPress> ParseKeys(const char* keys)
+std::vector<KeyPress> ParseKeys(const std::string& keys)
 {
     static const std::pair<std::string, WPARAM> kNames[] = {
         {"down", VK_DOWN}, {"up", VK_UP}, {"right", VK_RIGHT}, {"enter", VK_RETURN}, {"esc", VK_ESCAPE}};
@@ -55,7 +57,8 @@ std::string DescribeItem(HMENU hMenu, int index)
     if (info.fType & MFT_SEPARATOR)
         return "-";
     std::string entry = info.hSubMenu ? text + ("{" + DescribeMenu(info.hSubMenu) + "}")
-                                      : std::to_string(info.wID) + " " + text;
+                        : g_tracking.withIds ? std::to_string(info.wID) + " " + text
+                                             : text;
     return entry + (info.fState & MFS_GRAYED ? " (grayed)" : "") + (info.fState & MFS_CHECKED ? " (checked)" : "");
 }
 
@@ -71,15 +74,30 @@ LRESULT CALLBACK WatchMenu(int code, WPARAM wParam, LPARAM lParam)
 {
     const CWPSTRUCT& msg = *reinterpret_cast<const CWPSTRUCT*>(lParam);
     if (msg.message == WM_INITMENUPOPUP && !g_tracking.described) {
-        g_tracking.run->entries = DescribeMenu(reinterpret_cast<HMENU>(msg.wParam));
+        g_tracking.entries = DescribeMenu(reinterpret_cast<HMENU>(msg.wParam));
         g_tracking.described = true;
     }
     if (msg.message == WM_ENTERIDLE && msg.wParam == MSGF_MENU && !g_tracking.keysSent) {
         g_tracking.keysSent = true;
+        // The menu's owner is the window the idle message reaches.
         for (const KeyPress& key : g_tracking.keys)
-            PostMessageA(g_tracking.owner, key.message, key.code, 1);
+            PostMessageA(msg.hwnd, key.message, key.code, 1);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// Tracks the menus that open while show runs.
+template <class Show>
+std::string Track(const std::string& keys, bool withIds, Show show)
+{
+    g_tracking = Tracking{ParseKeys(keys), withIds, "", false, false};
+    HHOOK hook = SetWindowsHookExA(WH_CALLWNDPROC, &WatchMenu, nullptr, GetCurrentThreadId());
+    show();
+    UnhookWindowsHookEx(hook);
+    // Keys the menu did not take must not reach the window afterwards.
+    for (MSG msg; PeekMessageA(&msg, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE);) {
+    }
+    return g_tracking.entries;
 }
 
 }  // namespace
@@ -87,12 +105,14 @@ LRESULT CALLBACK WatchMenu(int code, WPARAM wParam, LPARAM lParam)
 PopupRun RunPopup(kvContextMenu& menu, CWnd* pWnd, const char* keys)
 {
     PopupRun run;
-    g_tracking = Tracking{pWnd->GetSafeHwnd(), ParseKeys(keys), &run, false, false};
-    HHOOK hook = SetWindowsHookExA(WH_CALLWNDPROC, &WatchMenu, nullptr, GetCurrentThreadId());
-    run.chosen = menu.DisplayPopup(pWnd, CPoint(120, 90));
-    UnhookWindowsHookEx(hook);
-    // Keys the menu did not take must not reach the window afterwards.
-    for (MSG msg; PeekMessageA(&msg, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE);) {
-    }
+    run.entries = Track(keys, true, [&] { run.chosen = menu.DisplayPopup(pWnd, CPoint(120, 90)); });
     return run;
+}
+
+std::string ChooseFromContextMenu(const std::string& keys)
+{
+    std::string words;
+    for (const char ch : keys)
+        words += ch == '\r' ? " enter" : ch == '\x1b' ? " esc" : std::string(" ") + ch;
+    return Track(words, false, [] { PressKey(VK_F10, true); });
 }

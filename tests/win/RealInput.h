@@ -31,3 +31,19 @@ void QueueClickAt(HWND hWnd, POINT clientPoint, bool right = false);
 // The real clipboard's text. Null empties the clipboard.
 void SetClipboardText(const char* text);
 std::string ClipboardText();
+
+// Puts the clipboard's text back when the test ends.
+class ClipboardKeeper {
+public:
+    ClipboardKeeper()
+        : m_hadText(::IsClipboardFormatAvailable(CF_TEXT) != FALSE), m_text(m_hadText ? ClipboardText() : "")
+    {
+    }
+    ~ClipboardKeeper() { SetClipboardText(m_hadText ? m_text.c_str() : nullptr); }
+    ClipboardKeeper(const ClipboardKeeper&) = delete;
+    ClipboardKeeper& operator=(const ClipboardKeeper&) = delete;
+
+private:
+    bool m_hadText;
+    std::string m_text;
+};
