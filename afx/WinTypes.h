@@ -51,6 +51,24 @@ struct POINT { LONG x; LONG y; };
 struct SIZE { LONG cx; LONG cy; };
 struct RECT { LONG left; LONG top; LONG right; LONG bottom; };
 
+// A device-independent bitmap's header and colour table, laid out as on Windows
+// (the 32-bit fields stay 32 bits), and a palette's entry.
+struct BITMAPINFOHEADER {
+    DWORD biSize;
+    std::int32_t biWidth;
+    std::int32_t biHeight;
+    WORD biPlanes;
+    WORD biBitCount;
+    DWORD biCompression;
+    DWORD biSizeImage;
+    std::int32_t biXPelsPerMeter;
+    std::int32_t biYPelsPerMeter;
+    DWORD biClrUsed;
+    DWORD biClrImportant;
+};
+struct RGBQUAD { BYTE rgbBlue; BYTE rgbGreen; BYTE rgbRed; BYTE rgbReserved; };
+struct PALETTEENTRY { BYTE peRed; BYTE peGreen; BYTE peBlue; BYTE peFlags; };
+
 #define WM_APP 0x8000
 #define VK_BACK 0x08
 #define VK_TAB 0x09
