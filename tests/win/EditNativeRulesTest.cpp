@@ -73,9 +73,10 @@ TEST_F(EditNativeRules, LongTextsAndPasswordsAsTheNativeControl)
         EXPECT_EQ(actual.text.size(), row.length);
         EXPECT_EQ(actual.clipboard.substr(0, 6), row.clipboard);
         if (row.likeWinesControl) {
-            EXPECT_EQ(actual.text, expected.text);
+            // Compared whole but not printed: the texts are 70,000 characters long.
+            EXPECT_TRUE(actual.text == expected.text);
             EXPECT_EQ(actual.sel, expected.sel);
-            EXPECT_EQ(actual.clipboard, expected.clipboard);
+            EXPECT_TRUE(actual.clipboard == expected.clipboard);
         }
         native.DestroyWindow();
     }
