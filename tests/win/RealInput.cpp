@@ -145,3 +145,18 @@ std::string ClipboardText()
     ::CloseClipboard();
     return text;
 }
+
+void MoveMouseTo(HWND hWnd, POINT clientPoint)
+{
+    POINT screen = clientPoint;
+    ::ClientToScreen(hWnd, &screen);
+    Send({MouseInput(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, ToAbsolute(screen.x, ::GetSystemMetrics(SM_CXSCREEN)),
+                     ToAbsolute(screen.y, ::GetSystemMetrics(SM_CYSCREEN)))});
+    flushEvents();
+}
+
+void PressLeftButton(bool down)
+{
+    Send({MouseInput(down ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP)});
+    flushEvents();
+}

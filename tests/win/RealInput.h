@@ -47,3 +47,9 @@ private:
     bool m_hadText;
     std::string m_text;
 };
+
+// The mouse moved to a point of hWnd's client area, with no button pressed or
+// released; then the events are let in.
+void MoveMouseTo(HWND hWnd, POINT clientPoint);
+// The left button pressed (down) or released where the mouse is.
+void PressLeftButton(bool down);
