@@ -22,7 +22,6 @@
 #include "kvbase/SmartPtr.h"
 #include "menus/CBFunctor2.h"
 #include "menus/CBFunctor2wRet.h"
-#include "notebook/kvBottomTabGeometry.h"
 
 #if defined(_WIN32)
 #include "afx/AfxExtension.h"
@@ -58,7 +57,6 @@
 #include "afx/CWindowDC.h"
 #include "afx/CWnd.h"
 
-#include "buttons/kvBmpButton.h"
 #include "buttons/kvButton.h"
 #include "buttons/kvHoverButton.h"
 #include "formatting/kvChildKillFocus.h"
@@ -75,6 +73,4 @@
 #include "menus/kvLabeledCMenuItem.h"
 #include "menus/kvResourceCMenu.h"
 #include "menus/kvResourceCMenuItem.h"
-#include "notebook/kvTabNotebook.h"
-#include "notebook/kvTabPageButton.h"
 #endif
