@@ -17,6 +17,9 @@
 #include "menus/kvCtrlContextMenu.h"
 #include "menus/kvShowContextMenu.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 kvHoverSystemColors SystemColors()
@@ -260,6 +263,10 @@ LRESULT kvHoverButton::OnChildKillFocus(WPARAM wParam, LPARAM) { return m_Pendin
 void kvHoverButton::OnKillFocus(CWnd* pNewWnd)
 {
     CButton::OnKillFocus(pNewWnd);
+    // The focus rectangle leaves no trace on a background of none only when
+    // the parent paints under it again.
+    if (_ShowsParent())
+        _Repaint();
     m_PendingCtrl.OnKillFocus(this, pNewWnd);
 }
 
@@ -269,7 +276,26 @@ void kvHoverButton::OnContextMenu(CWnd*, CPoint point) { kvShowContextMenu<kvCtr
 
 // ---- mouse and keyboard ----
 
-void kvHoverButton::_Repaint() { Invalidate(TRUE); }
+bool kvHoverButton::_ShowsParent() const
+{
+    return std::find(std::begin(m_BackgroundColors), std::end(m_BackgroundColors), kvHoverColorNone) !=
+           std::end(m_BackgroundColors);
+}
+
+void kvHoverButton::_Repaint()
+{
+    CWnd* pParent = GetParent();
+    if (pParent == nullptr || !_ShowsParent()) {
+        Invalidate(TRUE);
+        return;
+    }
+    // Nothing fills a background of none: the parent paints it again first, or
+    // the smoothed edges of the previous state's text would show under the new.
+    CRect rect;
+    GetWindowRect(rect);
+    pParent->ScreenToClient(rect);
+    pParent->RedrawWindow(rect, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
 
 BOOL kvHoverButton::OnSetCursor(CWnd*, UINT nHitTest, UINT)
 {

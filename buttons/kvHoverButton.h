@@ -112,6 +112,8 @@ private:
     CFont* _TextFont(CFont& underlined) const;
     UINT _TextFormat() const;
     void _InvalidateIfCreated();
+    // A background of none somewhere: repaints go through the parent.
+    bool _ShowsParent() const;
     void _Repaint();
 
     _kvPendingCtrl m_PendingCtrl;
