@@ -57,6 +57,7 @@
 #include "afx/CWindowDC.h"
 #include "afx/CWnd.h"
 
+#include "buttons/kvBmpButton.h"
 #include "buttons/kvButton.h"
 #include "buttons/kvHoverButton.h"
 #include "formatting/kvChildKillFocus.h"
