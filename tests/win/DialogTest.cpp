@@ -8,7 +8,7 @@
 
 namespace {
 
-enum DialogAction { kPressEnter, kPressEscape, kCloseWindow, kEndWithSeven, kEndInInitDialog };
+enum DialogAction { kPressEnter, kPressEscape, kEndWithSeven, kEndInInitDialog };
 
 struct ModalRow {
     const char* name;
@@ -19,7 +19,6 @@ struct ModalRow {
 const ModalRow kModals[] = {
     {"Enter presses the default button", kPressEnter, IDOK},
     {"Escape cancels", kPressEscape, IDCANCEL},
-    {"closing the window cancels", kCloseWindow, IDCANCEL},
     {"a handler ends the dialog with its own result", kEndWithSeven, 7},
     {"ending in OnInitDialog skips the loop", kEndInInitDialog, 42},
 };
@@ -42,7 +41,6 @@ void CALLBACK RunPendingAction(HWND, UINT, UINT_PTR timer, DWORD)
     switch (g_pending.action) {
     case kPressEnter: PressKey(VK_RETURN); break;
     case kPressEscape: PressKey(VK_ESCAPE); break;
-    case kCloseWindow: dialog.PostMessage(WM_CLOSE); break;
     default: dialog.EndDialog(7); break;
     }
 }
