@@ -108,21 +108,15 @@ struct EnablingRow {
 };
 
 const EnablingRow kEnabling[] = {
-    {"empty edit", "", "", 0, 0, 0, Clip::Text,
-     "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste|5 &Delete (grayed)|-|6 Select &All (grayed)"},
-    {"empty clipboard", "", "", 0, 0, 0, Clip::Empty,
+    {"empty edit, empty clipboard", "", "", 0, 0, 0, Clip::Empty,
      "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste (grayed)|5 &Delete (grayed)|-|6 Select &All (grayed)"},
-    {"clipboard without text", "abc", "", 1, 1, 0, Clip::OtherFormat,
+    {"caret without selection, clipboard without text", "abc", "", 1, 1, 0, Clip::OtherFormat,
      "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste (grayed)|5 &Delete (grayed)|-|6 Select &All"},
-    {"caret without selection", "abc", "", 1, 1, 0, Clip::Text,
-     "1 &Undo (grayed)|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste|5 &Delete (grayed)|-|6 Select &All"},
     {"everything selected", "abc", "", 0, 3, 0, Clip::Text,
      "1 &Undo (grayed)|-|2 Cu&t|3 &Copy|4 &Paste|5 &Delete|-|6 Select &All (grayed)"},
-    {"part selected", "abc", "", 1, 3, 0, Clip::Text,
-     "1 &Undo (grayed)|-|2 Cu&t|3 &Copy|4 &Paste|5 &Delete|-|6 Select &All"},
     {"typing can be undone", "ab", "c", 3, 3, 0, Clip::Text,
      "1 &Undo|-|2 Cu&t (grayed)|3 &Copy (grayed)|4 &Paste|5 &Delete (grayed)|-|6 Select &All"},
-    {"read-only edit offers cut and paste", "abc", "", 0, 2, ES_READONLY, Clip::Text,
+    {"read-only edit, part selected, offers cut and paste", "abc", "", 0, 2, ES_READONLY, Clip::Text,
      "1 &Undo (grayed)|-|2 Cu&t|3 &Copy|4 &Paste|5 &Delete|-|6 Select &All"},
 };
 
@@ -156,7 +150,14 @@ const HelpRow kHelp[] = {
     {"no help anywhere", 0, 0, 0, 0, 0},
 };
 
-TEST_F(EditMenu, HelpItemShownOnlyWithAHelpID)
+// Stands in for the main window, through which the application shows help.
+class HelpRecorder : public CWnd {
+public:
+    void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override { calls.emplace_back(dwData, nCmd); }
+    std::vector<std::pair<DWORD_PTR, UINT>> calls;
+};
+
+TEST_F(EditMenu, HelpItemShownOnlyWithAHelpIDAndShowsItsTopic)
 {
     for (const HelpRow& row : kHelp) {
         SCOPED_TRACE(row.name);
@@ -168,10 +169,14 @@ TEST_F(EditMenu, HelpItemShownOnlyWithAHelpID)
 
         ProbeMenu menu;
         menu.AppendDefaultMenu();
-        const std::string entries = Show(menu).entries;
+        HelpRecorder recorder;
+        CWnd* mainWnd = std::exchange(AfxGetApp()->m_pMainWnd, &recorder);
+        const PopupRun run = Show(menu, row.helpID ? "w" : "esc");
+        AfxGetApp()->m_pMainWnd = mainWnd;
         EXPECT_EQ(menu.HelpID(), row.helpID);
-        const std::string last = entries.substr(entries.rfind('|') + 1);
-        EXPECT_EQ(last, row.helpID ? "7 &What's This?" : "6 Select &All");
+        EXPECT_EQ(run.entries.substr(run.entries.rfind('|') + 1), row.helpID ? "7 &What's This?" : "6 Select &All");
+        using Calls = std::vector<std::pair<DWORD_PTR, UINT>>;
+        EXPECT_EQ(recorder.calls, (row.helpID ? Calls{{row.helpID, 0x0F}} : Calls{}));
     }
 }
 
@@ -189,47 +194,20 @@ TEST_F(EditMenu, EditOfAComboBoxTakesTheComboBoxHelpID)
     edit.UnsubclassWindow();
 }
 
-// Stands in for the main window, through which the application shows help.
-class HelpRecorder : public CWnd {
-public:
-    void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override { calls.emplace_back(dwData, nCmd); }
-    std::vector<std::pair<DWORD_PTR, UINT>> calls;
-};
-
-TEST_F(EditMenu, WhatsThisShowsTheTopicOfTheFoundID)
-{
-    CreateEdit(0x3E9, 0, "abc", "", 0, 0);
-    m_parent.SetWindowContextHelpId(0x20064);
-    HelpRecorder recorder;
-    CWinApp* app = AfxGetApp();
-    ASSERT_NE(app, nullptr);
-    CWnd* mainWnd = std::exchange(app->m_pMainWnd, &recorder);
-    kvEditContextMenu menu;
-    menu.AppendDefaultMenu();
-    const unsigned int chosen = Show(menu, "w").chosen;
-    app->m_pMainWnd = mainWnd;
-    EXPECT_EQ(chosen, 7u);
-    const std::vector<std::pair<DWORD_PTR, UINT>> expected{{0x006403E9, 0x0F}};
-    EXPECT_EQ(recorder.calls, expected);
-}
-
 struct CommandRow {
     const char* name;
     const char* key;  // the mnemonic
     unsigned int chosen;
-    UINT message;  // what the edit receives
-    const char* text;
-    int selStart, selEnd;
-    const char* clipboard;
+    ExpectedMessage received;  // by the edit
 };
 
 const CommandRow kCommands[] = {
-    {"undo", "u", 1, WM_UNDO, "ab", 2, 2, "XY"},
-    {"cut", "t", 2, WM_CUT, "ac", 1, 1, "b"},
-    {"copy", "c", 3, WM_COPY, "abc", 1, 2, "b"},
-    {"paste", "p", 4, WM_PASTE, "aXYc", 3, 3, "XY"},
-    {"delete", "d", 5, WM_CLEAR, "ac", 1, 1, "XY"},
-    {"select all", "a", 6, EM_SETSEL, "abc", 0, 3, "XY"},
+    {"undo", "u", 1, {"edit", WM_UNDO, kAnyParams, 0, 0}},
+    {"cut", "t", 2, {"edit", WM_CUT, kAnyParams, 0, 0}},
+    {"copy", "c", 3, {"edit", WM_COPY, kAnyParams, 0, 0}},
+    {"paste", "p", 4, {"edit", WM_PASTE, kAnyParams, 0, 0}},
+    {"delete", "d", 5, {"edit", WM_CLEAR, kAnyParams, 0, 0}},
+    {"select all", "a", 6, {"edit", EM_SETSEL, kWParam | kLParam, 0, -1}},
 };
 
 TEST_F(EditMenu, ChosenCommandReachesTheEdit)
@@ -244,16 +222,7 @@ TEST_F(EditMenu, ChosenCommandReachesTheEdit)
         kvEditContextMenu menu;
         menu.AppendDefaultMenu();
         EXPECT_EQ(Show(menu, row.key).chosen, row.chosen);
-        const ExpectedMessage expected[] = {{"edit", row.message, kAnyParams, 0, 0}};
-        EXPECT_SEQUENCE(log, expected);
-        CString text;
-        m_edit.GetWindowText(text);
-        EXPECT_STREQ(text, row.text);
-        int start = -1, end = -1;
-        m_edit.GetSel(start, end);
-        EXPECT_EQ(start, row.selStart);
-        EXPECT_EQ(end, row.selEnd);
-        EXPECT_EQ(ClipboardText(), row.clipboard);
+        CompareSequence(log, &row.received, 1, row.name, __FILE__, __LINE__);
     }
 }
 
