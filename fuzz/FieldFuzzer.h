@@ -11,7 +11,8 @@
 // - RawData and FormatRawData survive any text, and a RawData refusal selects
 //   characters of the text.
 // A family switches off, for the texts concerned, the promises its formatter
-// breaks on purpose, and adds checks of its own.
+// breaks on purpose, and adds checks of its own. Each target only defines
+// FuzzFamily: its formatter, built from the input's first bytes, and those checks.
 #pragma once
 
 #include "FuzzInput.h"
@@ -25,7 +26,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
-#include <utility>
+#include <memory>
 
 using TextCheck = std::function<void(const CString& text)>;
 using TextTest = std::function<bool(const CString& text)>;
@@ -33,32 +34,47 @@ using TextTest = std::function<bool(const CString& text)>;
 struct FamilyChecks {
     TextCheck onText;      // the field's text after every step
     TextCheck onAccepted;  // every text IsValid accepted
-
     // The common promises a family breaks on purpose, each as a test of the
-    // text concerned: false where the promise does not hold. Empty: it holds
-    // for every text.
-    // Of a text validated: IsValid decides the same with and without a record.
-    TextTest sameVerdictWithoutRecord;
-    // Of an accepted text: it is accepted again; one that is not is a text no
-    // field keeps, and is checked no further.
-    TextTest staysAccepted;
-    // Of a text validated: validation normalises it in one pass.
-    TextTest settlesAtOnce;
-    // Of an accepted text: FormatRawData takes its raw form back.
-    TextTest rawReadsBack;
+    // text concerned: false where the promise does not hold; empty: it holds.
+    TextTest sameVerdictWithoutRecord;  // of a text validated
+    TextTest staysAccepted;  // of an accepted text; one that is not is checked no further
+    TextTest settlesAtOnce;  // of a text validated: validation normalises it in one pass
+    TextTest rawReadsBack;   // of an accepted text: FormatRawData takes its raw form back
 };
+
+struct Family {
+    std::unique_ptr<kvEditFormatter> formatter;
+    FamilyChecks checks;
+};
+Family FuzzFamily(FuzzInput& in);
+
+// Also for the families' own checks.
+inline void Require(bool holds, const char* what, const CString& text)
+{
+    if (!holds) {
+        std::fprintf(stderr, "broken: %s (text \"%s\")\n", what, text.GetString());
+        std::abort();
+    }
+}
+
+// Status messages and beeps go nowhere; queries get `answer`.
+inline void QuietStatus(LRESULT answer = 0)
+{
+    kvSetStatusReceiver([answer](WPARAM kind, LPARAM) -> LRESULT { return kind == kvStatusQuery ? answer : 0; });
+    kvSetBeepHook([](unsigned int) {});
+}
 
 class FieldFuzzer {
 public:
-    FieldFuzzer(const kvEditFormatter& formatter, FuzzInput& in, FamilyChecks checks = {})
-        : m_f(formatter), m_in(in), m_checks(std::move(checks))
+    FieldFuzzer(const kvEditFormatter& formatter, FuzzInput& in, const FamilyChecks& checks)
+        : m_f(formatter), m_in(in), m_checks(checks)
     {
     }
 
     void Run()
     {
         m_f.DoEnterField(m_text, m_sel);
-        RequireSelectionInside(m_text, m_sel, "selection after DoEnterField");
+        RequireInside(m_text, m_sel, "selection after DoEnterField");
         while (!m_in.Exhausted()) {
             Step();
             if (m_checks.onText)
@@ -66,31 +82,28 @@ public:
         }
     }
 
-    // Also for the families' own checks.
-    static void Require(bool holds, const char* what, const CString& text)
-    {
-        if (holds)
-            return;
-        std::fprintf(stderr, "broken: %s (text \"%s\")\n", what, text.GetString());
-        std::abort();
-    }
-
 private:
     static constexpr int kLongestText = 400;
 
-    // One IsValid call: its verdict, the text it left and its error record.
-    struct Verdict {
+    struct Verdict {  // of one IsValid call
         bool valid = false;
         CString text;
         kvEditFormatterError err;
     };
 
     static bool Holds(const TextTest& promise, const CString& text) { return !promise || promise(text); }
+    static void RequireInside(const CString& text, unsigned long sel, const char* what)
+    {
+        Require(kvSelStart(sel) <= kvSelEnd(sel) && kvSelEnd(sel) <= text.GetLength(), what, text);
+    }
 
     void Step()
     {
+        static const char kTypical[] = "0123456789.,-+()/: aZz";  // mostly what formatters care about
         switch (m_in.Below(10)) {
-        case 0: case 1: case 2: TypeKey(TypedKey()); break;
+        case 0: case 1: case 2:
+            TypeKey(m_in.Flag() ? static_cast<unsigned char>(kTypical[m_in.Below(sizeof kTypical - 1)]) : m_in.Byte());
+            break;
         case 3: TypeKey(VK_BACK); break;
         case 4: PressKeyDown(m_in.Flag() ? VK_DELETE : m_in.Byte()); break;
         case 5: Select(); break;
@@ -101,21 +114,9 @@ private:
         }
     }
 
-    // Mostly the characters formatters care about, and any byte at all.
-    unsigned int TypedKey()
-    {
-        static const char kTypical[] = "0123456789.,-+()/: aZz";
-        return m_in.Flag() ? static_cast<unsigned char>(kTypical[m_in.Below(sizeof kTypical - 1)]) : m_in.Byte();
-    }
-
-    static void RequireSelectionInside(const CString& text, unsigned long sel, const char* what)
-    {
-        Require(kvSelStart(sel) <= kvSelEnd(sel) && kvSelEnd(sel) <= text.GetLength(), what, text);
-    }
-
     void Take(const CString& text, unsigned long sel, const char* what)
     {
-        RequireSelectionInside(text, sel, what);
+        RequireInside(text, sel, what);
         m_text = text;
         m_sel = sel;
     }
@@ -135,19 +136,16 @@ private:
     {
         CString text(m_text);
         unsigned long sel = m_sel;
-        if (m_f.DoKeyDown(text, sel, m_overtype, key, 1, 0)) {
-            Require(text == m_text && sel == m_sel, "a key-down left to the edit changed the field", m_text);
-            return;
-        }
-        Take(text, sel, "selection after DoKeyDown");
+        if (!m_f.DoKeyDown(text, sel, m_overtype, key, 1, 0))
+            return Take(text, sel, "selection after DoKeyDown");
+        Require(text == m_text && sel == m_sel, "a key-down left to the edit changed the field", m_text);
     }
 
     void Select()
     {
         const int length = m_text.GetLength();
         const int start = static_cast<int>(m_in.Byte() % (length + 1));
-        const int end = start + static_cast<int>(m_in.Byte() % (length - start + 1));
-        m_sel = kvPackSel(start, end);
+        m_sel = kvPackSel(start, start + static_cast<int>(m_in.Byte() % (length - start + 1)));
     }
 
     Verdict Judge(bool withRecord) const
@@ -168,18 +166,13 @@ private:
         if (recorded.valid)
             CheckAccepted(m_text, recorded.text);
         else
-            RequireSelectionInside(recorded.text, recorded.err.selection, "error selection outside the text");
+            RequireInside(recorded.text, recorded.err.selection, "error selection outside the text");
         if (quiet.valid && !sameVerdict)
             CheckAccepted(m_text, quiet.text);
-
-        // As the host does: the field shows the normalised text; a refused
-        // one with the faulty characters selected where a record says which,
-        // an accepted one after DoExitField.
-        switch (m_in.Below(3)) {
-        case 1: Show(recorded); break;
-        case 2: Show(quiet); break;
-        default: break;
-        }
+        // As the host does: the field shows the normalised text; a refused one
+        // with the faulty characters selected, an accepted one after DoExitField.
+        if (const unsigned int shown = m_in.Below(3))
+            Show(shown == 1 ? recorded : quiet);
     }
 
     void Show(const Verdict& verdict)
@@ -217,16 +210,15 @@ private:
     // neither may misbehave.
     void ConvertRaw()
     {
-        CString raw(m_text);
+        CString raw(m_text), shown(m_text);
         kvEditFormatterError err;
         const bool withRecord = m_in.Flag();
         if (m_f.RawData(raw, withRecord ? &err : nullptr)) {
             CString display(raw);
             m_f.FormatRawData(display);
         } else if (withRecord) {
-            RequireSelectionInside(raw, err.selection, "RawData error selection outside the text");
+            RequireInside(raw, err.selection, "RawData error selection outside the text");
         }
-        CString shown(m_text);
         m_f.FormatRawData(shown);
     }
 
@@ -243,23 +235,22 @@ private:
     // An edit control keeps a selection inside its text whatever it is given.
     void ClampSelection()
     {
-        const int length = m_text.GetLength();
-        const int end = kvSelEnd(m_sel) < length ? kvSelEnd(m_sel) : length;
-        const int start = kvSelStart(m_sel) < end ? kvSelStart(m_sel) : end;
-        m_sel = kvPackSel(start, end);
+        const int end = kvSelEnd(m_sel) < m_text.GetLength() ? kvSelEnd(m_sel) : m_text.GetLength();
+        m_sel = kvPackSel(kvSelStart(m_sel) < end ? kvSelStart(m_sel) : end, end);
     }
 
     const kvEditFormatter& m_f;
     FuzzInput& m_in;
-    FamilyChecks m_checks;
+    const FamilyChecks& m_checks;
     CString m_text;
     unsigned long m_sel = 0;
     bool m_overtype = false;
 };
 
-// Status messages and beeps go nowhere; queries get `answer`.
-inline void QuietStatus(LRESULT answer = 0)
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    kvSetStatusReceiver([answer](WPARAM kind, LPARAM) -> LRESULT { return kind == kvStatusQuery ? answer : 0; });
-    kvSetBeepHook([](unsigned int) {});
+    FuzzInput in(data, size);
+    const Family family = FuzzFamily(in);
+    FieldFuzzer(*family.formatter, in, family.checks).Run();
+    return 0;
 }

@@ -44,13 +44,6 @@ public:
         return text;
     }
 
-    // One of the values of a small table.
-    template <typename T, std::size_t N>
-    const T& Pick(const T (&table)[N])
-    {
-        return table[Byte() % N];
-    }
-
 private:
     const std::uint8_t* m_data;
     std::size_t m_size;

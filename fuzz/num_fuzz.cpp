@@ -6,6 +6,7 @@
 #include "formatting/kvNumericText.h"
 
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -30,18 +31,18 @@ unsigned long FuzzFormat(FuzzInput& in)
 double FuzzLimit(FuzzInput& in)
 {
     static const double kLimits[] = {0, 1, -1, 0.5, -0.5, 100, -100, 999.99, 1e9, -1e9, 0.004, 12345.678};
-    return in.Below(4) ? in.Pick(kLimits) : in.Double();
+    return in.Below(4) ? kLimits[in.Below(std::size(kLimits))] : in.Double();
 }
 
-Num MakeFormatter(FuzzInput& in)
+std::unique_ptr<Num> MakeFormatter(FuzzInput& in)
 {
     const unsigned int integers = in.Below(16);
     const unsigned int decimals = in.Below(7);
-    Num f(integers, decimals, FuzzFormat(in));
+    auto f = std::make_unique<Num>(integers, decimals, FuzzFormat(in));
     if (const int type = in.Below(3))
-        f.SetLowerLimit(FuzzLimit(in), static_cast<Num::LowerLimitType>(type));
+        f->SetLowerLimit(FuzzLimit(in), static_cast<Num::LowerLimitType>(type));
     if (const int type = in.Below(3))
-        f.SetUpperLimit(FuzzLimit(in), static_cast<Num::UpperLimitType>(type));
+        f->SetUpperLimit(FuzzLimit(in), static_cast<Num::UpperLimitType>(type));
     return f;
 }
 
@@ -66,21 +67,21 @@ void CheckValue(const Num& f, const CString& accepted)
 {
     CString text(accepted);
     double value = 0;
-    FieldFuzzer::Require(f.Data(value, text, nullptr), "Data of accepted text failed", accepted);
-    FieldFuzzer::Require(SameValue(value, DoubleValue(accepted)),
-                         "DoubleValue of the display differs from the stored value", accepted);
+    Require(f.Data(value, text, nullptr), "Data of accepted text failed", accepted);
+    Require(SameValue(value, DoubleValue(accepted)), "DoubleValue of the display differs from the stored value",
+            accepted);
     CString again(accepted);
     f.IsValid(again, nullptr);
-    FieldFuzzer::Require(SameValue(DoubleValue(again), value), "validating again changed the value", accepted);
+    Require(SameValue(DoubleValue(again), value), "validating again changed the value", accepted);
 }
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+Family FuzzFamily(FuzzInput& in)
 {
-    FuzzInput in(data, size);
     QuietStatus(in.Below(2) ? FuzzFormat(in) : 0);
-    const Num f = MakeFormatter(in);
+    auto formatter = MakeFormatter(in);
+    const Num& f = *formatter;
     FamilyChecks checks;
     checks.onText = [&f](const CString& text) { RunNumericHelpers(f, text); };
     checks.onAccepted = [&f](const CString& accepted) { CheckValue(f, accepted); };
@@ -91,6 +92,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checks.settlesAtOnce = [&f](const CString& input) {
         return !(f.GetFormat() & Num::ImpliedDecimal) && input.Find('.') == input.ReverseFind('.');
     };
-    FieldFuzzer(f, in, checks).Run();
-    return 0;
+    return {std::move(formatter), checks};
 }
