@@ -22,6 +22,7 @@
 #include "kvbase/SmartPtr.h"
 #include "menus/CBFunctor2.h"
 #include "menus/CBFunctor2wRet.h"
+#include "notebook/kvBottomTabGeometry.h"
 
 #if defined(_WIN32)
 #include "afx/AfxExtension.h"
@@ -74,4 +75,6 @@
 #include "menus/kvLabeledCMenuItem.h"
 #include "menus/kvResourceCMenu.h"
 #include "menus/kvResourceCMenuItem.h"
+#include "notebook/kvTabNotebook.h"
+#include "notebook/kvTabPageButton.h"
 #endif

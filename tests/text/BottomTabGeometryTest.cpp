@@ -137,18 +137,6 @@ TEST(BottomTabGeometry, HitTestFollowsTheSlantedSides)
     EXPECT_EQ(DefaultTabs().HitTest({30, 90}, {}), -1) << "no tabs";
 }
 
-TEST(BottomTabGeometry, OutlineAndTextLieBetweenTheSlants)
-{
-    const kvBottomTabGeometry tabs = DefaultTabs();
-    const kvBottomTabGeometry::Span span{50, 124};
-    const std::array<CPoint, 4> corners = tabs.Trapezoid(span, 82, 16);
-    EXPECT_EQ(corners[0], CPoint(50, 82));
-    EXPECT_EQ(corners[1], CPoint(124, 82));
-    EXPECT_EQ(corners[2], CPoint(116, 98));
-    EXPECT_EQ(corners[3], CPoint(58, 98));
-    EXPECT_EQ(tabs.TextRect(span, 83, 16), CRect(58, 83, 116, 99));
-}
-
 struct MessageRow {
     const char* name;
     int width, height;
