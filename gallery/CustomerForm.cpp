@@ -1,7 +1,6 @@
 // CustomerForm
 #include "gallery/CustomerForm.h"
 
-#include "afx/CFrameWnd.h"
 #include "formatting/kvDateEditFormatter.h"
 #include "formatting/kvMessages.h"
 #include "formatting/kvNumEditFormatter.h"
@@ -59,13 +58,7 @@ BEGIN_MESSAGE_MAP(CustomerForm, CDialog)
     ON_MESSAGE(WM_KV_CHILDKILLFOCUS, OnChildKillFocus)
 END_MESSAGE_MAP()
 
-BOOL CustomerForm::Create(CWnd* pFrame)
-{
-    if (!CDialog::Create(IDD_CUSTOMER, pFrame))
-        return FALSE;
-    SetDlgCtrlID(AFX_IDW_PANE_FIRST);
-    return TRUE;
-}
+BOOL CustomerForm::Create(CWnd* pParent) { return CDialog::Create(IDD_CUSTOMER, pParent); }
 
 BOOL CustomerForm::OnInitDialog()
 {
@@ -87,10 +80,18 @@ void CustomerForm::AttachFields()
     }
 }
 
-// Focus changes stay inside the form: the frame holds no other fields.
+// In a notebook, a focus change that leaves the form (to a tab) is checked by
+// the notebook's host; alone, the form holds every field there is.
 LRESULT CustomerForm::OnChildKillFocus(WPARAM wParam, LPARAM lParam)
 {
-    return m_validator.OnChildKillFocus(this, false, wParam, lParam);
+    return m_validator.OnChildKillFocus(this, IsInNotebook(), wParam, lParam);
+}
+
+// Ctrl+Tab changes pages with the focus still in a field: check that field.
+bool CustomerForm::CanLeave()
+{
+    CWnd* pFocus = GetFocus();
+    return pFocus == nullptr || !IsChild(pFocus) || m_validator.IsValidChild(pFocus);
 }
 
 bool CustomerForm::AllFieldsValid()

@@ -4,20 +4,22 @@
 // every field is valid; Cancel brings the saved values back without a check.
 #pragma once
 
-#include "afx/CDialog.h"
 #include "buttons/kvButton.h"
 #include "formatting/kvEdit.h"
 #include "formatting/kvEditValidator.h"
+#include "gallery/GalleryPage.h"
 
 #include <array>
 
-class CustomerForm : public CDialog {
+class CustomerForm : public GalleryPage {
 public:
-    // Creates the form as the view of its frame.
-    BOOL Create(CWnd* pFrame);
+    BOOL Create(CWnd* pParent);
     // Types an amount above the limit and tabs on, as a person would, so that
     // the form shows how it refuses invalid input.
     void EnterInvalidAmount();
+
+    bool CanLeave() override;
+    void PrepareForPicture() override { EnterInvalidAmount(); }
 
 protected:
     BOOL OnInitDialog() override;

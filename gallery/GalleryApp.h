@@ -1,6 +1,7 @@
-// GalleryApp: the gallery, kvWin's demo application. With "--screenshot FILE"
-// it saves a picture of its main window to FILE and exits, so that it can run
-// unattended.
+// GalleryApp: the gallery, kvWin's demo application. With "--pictures FOLDER"
+// it saves a picture of its main window with each page shown into FOLDER and
+// exits, so that it can run unattended; "--bottom-tabs" starts it with the
+// notebook's tabs below its pages.
 #pragma once
 
 #include "afx/CWinApp.h"

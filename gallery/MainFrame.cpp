@@ -33,12 +33,13 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_TIMER()
     ON_MESSAGE(WM_KV_STATUS, OnStatusMessage)
     ON_COMMAND(ID_APP_ABOUT, OnAppAbout)
+    ON_COMMAND(ID_VIEW_BOTTOM_TABS, OnViewBottomTabs)
     ON_COMMAND(ID_APP_EXIT, OnAppExit)
 END_MESSAGE_MAP()
 
 BOOL MainFrame::Create()
 {
-    const CRect initial(40, 40, 440, 420);
+    const CRect initial(40, 40, 460, 470);
     return CFrameWnd::Create(nullptr, "kvWin Gallery", WS_OVERLAPPEDWINDOW, initial, nullptr,
                              MAKEINTRESOURCE(IDR_MAINFRAME));
 }
@@ -49,8 +50,9 @@ int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;
     if (!m_statusBar.Create(this) || !m_statusBar.SetIndicators(kIndicators, std::size(kIndicators)))
         return -1;
-    if (!m_form.Create(this))
+    if (!m_book.Create(this, m_initialTabStyle))
         return -1;
+    ShowTabStyleInMenu();
     ShowFieldMessage(nullptr);
     ShowOvertype();
     RecalcLayout();
@@ -86,10 +88,30 @@ void MainFrame::ShowOvertype()
     m_statusBar.SetPaneText(kOvertypePane, m_overtype ? "OVR" : "");
 }
 
-void MainFrame::SavePictureAndClose(const CString& fileName)
+void MainFrame::OnViewBottomTabs()
 {
-    m_pictureFile = fileName;
-    m_form.EnterInvalidAmount();
+    const bool bottom = m_book.GetTabStyle() == kvTabNotebook::BottomTabs;
+    m_book.SetTabStyle(bottom ? kvTabNotebook::StandardTabs : kvTabNotebook::BottomTabs);
+    ShowTabStyleInMenu();
+}
+
+void MainFrame::ShowTabStyleInMenu()
+{
+    const bool bottom = m_book.GetTabStyle() == kvTabNotebook::BottomTabs;
+    ::CheckMenuItem(::GetMenu(m_hWnd), ID_VIEW_BOTTOM_TABS, MF_BYCOMMAND | (bottom ? MF_CHECKED : MF_UNCHECKED));
+}
+
+// The form comes last: its picture ends with the refused amount in the field.
+void MainFrame::SavePicturesAndClose(const CString& folder)
+{
+    m_pictureFolder = folder;
+    m_pictureCount = 0;
+    ShowNextPicturePage();
+}
+
+void MainFrame::ShowNextPicturePage()
+{
+    m_book.ShowPageForPicture(m_book.GetPageCount() - 1 - m_pictureCount);
     SetTimer(kPictureTimer, kPictureDelayMs);
 }
 
@@ -99,7 +121,14 @@ void MainFrame::OnTimer(UINT_PTR nIDEvent)
         return;
     KillTimer(kPictureTimer);
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    theApp.PictureSaved(SaveWindowBitmap(m_hWnd, m_pictureFile));
+    const int page = m_book.GetPageCount() - 1 - m_pictureCount;
+    const CString file = m_pictureFolder + "/" + GalleryBook::PageName(page) + ".bmp";
+    m_picturesSaved = SaveWindowBitmap(m_hWnd, file) && m_picturesSaved;
+    if (++m_pictureCount < m_book.GetPageCount()) {
+        ShowNextPicturePage();
+        return;
+    }
+    theApp.PictureSaved(m_picturesSaved);
     DestroyWindow();
 }
 

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The main job: builds the Windows configuration and runs the gallery, the demo
 # application, under Wine. Without an X display it runs inside a virtual one,
-# saves a picture of its window to build/windows/gallery.png and exits.
+# saves a picture of its window with each page shown to build/windows/pictures/
+# (tabs on top, and once more with the tabs below) and exits.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -20,7 +21,12 @@ fi
 # The Wine server started without a display must be gone before the gallery
 # starts on the virtual one, or the gallery would join it and get no window.
 WINEPREFIX="$PWD/$build/wineprefix" wineserver -w
-rm -f "$build/gallery.bmp" "$build/gallery.png"
-xvfb-run -a "$build/wine-run" "$build/bin/gallery.exe" --screenshot "$build/gallery.bmp"
-convert "$build/gallery.bmp" "$build/gallery.png"
-echo "The gallery's window: $build/gallery.png"
+pictures="$build/pictures"
+rm -rf "$pictures"
+mkdir -p "$pictures/bottom-tabs"
+xvfb-run -a "$build/wine-run" "$build/bin/gallery.exe" --pictures "$pictures"
+xvfb-run -a "$build/wine-run" "$build/bin/gallery.exe" --bottom-tabs --pictures "$pictures/bottom-tabs"
+for bmp in "$pictures"/*.bmp "$pictures"/bottom-tabs/*.bmp; do
+  convert "$bmp" "${bmp%.bmp}.png" && rm "$bmp"
+done
+echo "The gallery's pages: $pictures/*.png, and with the tabs below: $pictures/bottom-tabs/*.png"

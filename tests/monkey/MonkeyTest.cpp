@@ -59,6 +59,9 @@ public:
     {
         m_pFrame->Create(nullptr, "monkey", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(20, 20, 420, 360));
         m_form.Create(m_pFrame);
+        // The frame's view: the form covers all of it.
+        m_form.SetDlgCtrlID(AFX_IDW_PANE_FIRST);
+        m_form.ShowWindow(SW_SHOW);
         m_pFrame->RecalcLayout();
         FocusForInput(m_pFrame->m_hWnd, m_form.GetNextDlgTabItem(nullptr)->m_hWnd);
     }

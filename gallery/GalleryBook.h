@@ -1,0 +1,47 @@
+// GalleryBook: the main window's view, a notebook with a page for each part of
+// the gallery. A field the focus leaves for the notebook is checked here, and
+// changing pages is refused while the current page holds an invalid field. The
+// tabs sit on top or below; the notebook is made again to switch.
+#pragma once
+
+#include "afx/CDialog.h"
+#include "formatting/kvEditValidator.h"
+#include "gallery/ButtonsPage.h"
+#include "gallery/CustomerForm.h"
+#include "notebook/kvTabNotebook.h"
+
+#include <array>
+#include <memory>
+
+class GalleryBook : public CDialog {
+public:
+    // Creates the book as the view of its frame.
+    BOOL Create(CWnd* pFrame, kvTabNotebook::TabStyle tabStyle);
+    void SetTabStyle(kvTabNotebook::TabStyle tabStyle);
+    kvTabNotebook::TabStyle GetTabStyle() const { return m_pNotebook->GetTabStyle(); }
+
+    int GetPageCount() const { return static_cast<int>(m_pages.size()); }
+    // A short name of each page, for the file its picture goes to.
+    static const char* PageName(int nPage);
+    // Shows the page as its picture shows it.
+    void ShowPageForPicture(int nPage);
+
+protected:
+    BOOL OnInitDialog() override;
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSelChanging(NMHDR* pNotifyStruct, LRESULT* pResult);
+    afx_msg LRESULT OnChildKillFocus(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void CreateNotebook(kvTabNotebook::TabStyle tabStyle);
+    void PlaceNotebook();
+
+    std::unique_ptr<kvTabNotebook> m_pNotebook;
+    CustomerForm m_form;
+    ButtonsPage m_buttons;
+    std::array<GalleryPage*, 2> m_pages{&m_form, &m_buttons};
+    kvTabNotebook::TabStyle m_initialStyle = kvTabNotebook::StandardTabs;
+    kvEditValidator m_validator;
+};
