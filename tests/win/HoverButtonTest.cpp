@@ -1,52 +1,39 @@
-// The hover button under real input: the state it draws while the mouse moves
-// over it, presses, drags off and comes back; its own click; the hyperlink's
-// hand and underline; Space and the mnemonic; a button that refuses the focus;
-// and its part in validation like the validating push button.
+// The hover button in a dialog under real input: the states it draws as the
+// mouse moves, presses and drags, its own click, the hyperlink, the keyboard,
+// the focus, validation, its image copies, pictures of every look and state,
+// and no GDI object left behind.
 #include "ClientPixels.h"
 #include "FieldHarness.h"
 #include "MessageRecorder.h"
 #include "WindowTest.h"
+#include "monkey/GuiObjectCounter.h"
 
+#include "afx/CBitmap.h"
 #include "buttons/kvHoverButton.h"
 #include "formatting/kvEdit.h"
 #include "formatting/kvNumEditFormatter.h"
 #include "library/resource.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
+#include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
 
-using NF = kvNumEditFormatter;
-
-constexpr UINT kAmount = 100;
-constexpr UINT kHover = 200;
-constexpr UINT kOther = 201;
-
-const CRect kButtonRect(10, 100, 130, 130);
-const POINT kInside{60, 15};
-const POINT kOutside{200, 15};  // on the dialog, right of the button
-const POINT kBackgroundPoint{8, 8};  // clear of frame, focus rectangle and caption
-
-const COLORREF kBackgrounds[kvHoverStateCount] = {RGB(250, 240, 200), RGB(200, 240, 250), RGB(220, 220, 220),
-                                                  RGB(160, 200, 160)};
-
-// The flat look with a background colour of its own in each state.
-void ColouredHoverLook(kvHoverButton& button)
-{
-    button.SetStandardHoverLook();
-    for (int state = 0; state < kvHoverStateCount; ++state)
-        button.SetBackgroundColor(1ul << state, kBackgrounds[state]);
-}
+constexpr UINT kAmount = 100, kHover = 200, kOther = 201;
+const CRect kRect(10, 100, 130, 130), kSecondRect(10, 140, 130, 170);
+const POINT kInside{60, 15}, kOutside{200, 15};  // outside: on the dialog, right of the button
+constexpr COLORREF kMagenta = RGB(255, 0, 255);
 
 class HoverButtonTest : public WindowTest {
 protected:
     kvHoverButton& Add(FieldForm& form, UINT nID, const char* caption,
-                       const std::function<void(kvHoverButton&)>& setUp = {}, const CRect& rect = kButtonRect)
+                       const std::function<void(kvHoverButton&)>& setUp = {}, const CRect& rect = kRect)
     {
-        m_buttons.push_back(std::make_unique<kvHoverButton>());
-        kvHoverButton& button = *m_buttons.back();
+        kvHoverButton& button = *m_buttons.emplace_back(std::make_unique<kvHoverButton>());
         if (setUp)
             setUp(button);
         button.Create(caption, WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, &form.dialog, nID);
@@ -54,302 +41,271 @@ protected:
         return button;
     }
 
-    // BN_CLICKED notifications the dialog received from the button.
-    int Clicks(const MessageLog& log, const CWnd& button) const
-    {
-        int clicks = 0;
-        for (const LoggedMessage& entry : log.Entries())
-            clicks += HIWORD(entry.wParam) == BN_CLICKED && reinterpret_cast<HWND>(entry.lParam) == button.m_hWnd;
-        return clicks;
-    }
-
     std::vector<std::unique_ptr<kvHoverButton>> m_buttons;
 };
 
-// ---- mouse tracking ----
-
-enum class Mouse { In, Out, Down, Up };
-
-struct TrackStep {
-    Mouse mouse;
-    kvHoverState drawn;
-};
-
-struct TrackRow {
-    const char* name;
-    std::vector<TrackStep> steps;
-    int clicks;
-};
-
-const TrackRow kTracking[] = {
-    {"a click inside", {{Mouse::In, kvHoverHovering}, {Mouse::Down, kvHoverPushed}, {Mouse::Up, kvHoverHovering}}, 1},
-    {"released outside",
-     {{Mouse::In, kvHoverHovering}, {Mouse::Down, kvHoverPushed}, {Mouse::Out, kvHoverNormal}, {Mouse::Up, kvHoverNormal}},
-     0},
-    {"dragged off and back",
-     {{Mouse::In, kvHoverHovering},
-      {Mouse::Down, kvHoverPushed},
-      {Mouse::Out, kvHoverNormal},
-      {Mouse::In, kvHoverPushed},
-      {Mouse::Up, kvHoverHovering}},
-     1},
-    {"passing over", {{Mouse::In, kvHoverHovering}, {Mouse::Out, kvHoverNormal}}, 0},
-};
-
-void Perform(const CWnd& button, Mouse mouse)
-{
-    switch (mouse) {
-    case Mouse::In:
-        MoveMouseTo(button, kInside);
-        break;
-    case Mouse::Out:
-        MoveMouseTo(button, kOutside);
-        break;
-    case Mouse::Down:
-    case Mouse::Up:
-        PressLeftButton(mouse == Mouse::Down);
-        break;
+// The BN_CLICKED notifications a dialog receives from now on.
+struct Clicks {
+    explicit Clicks(HWND hDialog) { recorder.Watch(hDialog, "dialog"); }
+    long Count() const
+    {
+        return std::count_if(log.Entries().begin(), log.Entries().end(),
+                             [](const LoggedMessage& m) { return HIWORD(m.wParam) == BN_CLICKED; });
     }
-}
+    MessageLog log;
+    MessageRecorder recorder{log, {WM_COMMAND}};
+};
 
-// The thin frame: raised under the mouse, sunken when pushed, none otherwise.
-void ExpectDrawn(const CWnd& button, kvHoverState state)
-{
-    const ClientPixels pixels(button);
-    const int right = pixels.Width() - 1, bottom = pixels.Height() - 1;
-    const COLORREF light = ::GetSysColor(COLOR_3DHILIGHT), dark = ::GetSysColor(COLOR_BTNSHADOW);
-    const COLORREF topLeft = state == kvHoverHovering ? light : state == kvHoverPushed ? dark : kBackgrounds[state];
-    const COLORREF bottomRight = state == kvHoverHovering ? dark : state == kvHoverPushed ? light : kBackgrounds[state];
-    EXPECT_EQ(pixels.At(kBackgroundPoint.x, kBackgroundPoint.y), kBackgrounds[state]) << "background";
-    EXPECT_EQ(pixels.At(0, 0), topLeft) << "top left corner";
-    EXPECT_EQ(pixels.At(right / 2, 0), topLeft) << "top edge";
-    EXPECT_EQ(pixels.At(0, bottom / 2), topLeft) << "left edge";
-    EXPECT_EQ(pixels.At(right, 0), bottomRight) << "top right corner";
-    EXPECT_EQ(pixels.At(right, bottom / 2), bottomRight) << "right edge";
-    EXPECT_EQ(pixels.At(0, bottom), bottomRight) << "bottom left corner";
-    EXPECT_EQ(pixels.At(right / 2, bottom), bottomRight) << "bottom edge";
-}
+const COLORREF kBackgrounds[kvHoverStateCount] = {RGB(250, 240, 200), RGB(200, 240, 250), RGB(220, 220, 220),
+                                                  RGB(160, 200, 160)};
 
-TEST_F(HoverButtonTest, MouseDrawsTheStatesAndClicksOnlyOnAReleaseInside)
+TEST_F(HoverButtonTest, MouseScriptsDrawTheStatesAndClickOnlyOnAReleaseInside)
 {
+    // A step a letter: 'i' into the button, 'o' out of it, 'd' left button down,
+    // 'u' up; after each, the state drawn (Normal, Hovering, Pushed) and whether
+    // the button holds the capture.
+    const std::tuple<const char*, const char*, const char*, const char*, long> rows[] = {
+        {"a click inside", "idu", "HPH", "yyy", 1},
+        {"released outside", "idou", "HPNN", "yyyn", 0},
+        {"dragged off and back", "idoiu", "HPNPH", "yyyyy", 1},
+        {"passing over", "io", "HN", "yn", 0},
+    };
+    // The thin frame's top left: light when hovered, dark when pushed.
+    const COLORREF frames[kvHoverStateCount] = {kBackgrounds[0], ::GetSysColor(COLOR_3DHILIGHT), kBackgrounds[2],
+                                                ::GetSysColor(COLOR_BTNSHADOW)};
     for (const bool allowFocus : {true, false}) {
-        for (const TrackRow& row : kTracking) {
-            SCOPED_TRACE(std::string(row.name) + (allowFocus ? "" : ", refusing the focus"));
+        for (const auto& [name, script, drawn, captured, clicks] : rows) {
+            SCOPED_TRACE(std::string(name) + (allowFocus ? "" : ", refusing the focus"));
             FieldForm form(status.MainWindow());
             kvHoverButton& button = Add(form, kHover, "Go", [&](kvHoverButton& b) {
-                ColouredHoverLook(b);
+                b.SetStandardHoverLook();
+                for (int state = 0; state < kvHoverStateCount; ++state)
+                    b.SetBackgroundColor(1ul << state, kBackgrounds[state]);
                 b.SetAllowFocus(allowFocus);
             });
             MoveMouseTo(button, kOutside);
-            ExpectDrawn(button, kvHoverNormal);
-            MessageLog log;
-            MessageRecorder recorder(log, {WM_COMMAND});
-            recorder.Watch(form.dialog, "dialog");
-            for (const TrackStep& step : row.steps) {
-                Perform(button, step.mouse);
-                ExpectDrawn(button, step.drawn);
+            const Clicks clicked(form.dialog);
+            for (int i = 0; script[i] != '\0'; ++i) {
+                if (script[i] == 'i' || script[i] == 'o')
+                    MoveMouseTo(button, script[i] == 'i' ? kInside : kOutside);
+                else
+                    PressLeftButton(script[i] == 'd');
+                const int state = std::string("NH.P").find(drawn[i]);
+                const ClientPixels pixels(button);
+                EXPECT_EQ(pixels.At(8, 8), kBackgrounds[state]) << "background after step " << i;
+                EXPECT_EQ(pixels.At(0, 0), frames[state]) << "frame after step " << i;
+                EXPECT_EQ(::GetCapture() == button.m_hWnd, captured[i] == 'y') << "capture after step " << i;
             }
-            EXPECT_EQ(Clicks(log, button), row.clicks);
-            EXPECT_EQ(::GetCapture() == button.m_hWnd, row.steps.back().drawn != kvHoverNormal)
-                << "the capture is held while the mouse is over the button";
-            MoveMouseTo(button, kOutside);
+            EXPECT_EQ(clicked.Count(), clicks);
+            EXPECT_TRUE(allowFocus || ::GetFocus() != button.m_hWnd) << "a refused focus is not taken by a click";
         }
     }
 }
 
-TEST_F(HoverButtonTest, ADisabledButtonShowsItsDisabledLook)
+// The longest run of pixels unlike the background in one row, and the colour
+// of the last such pixel.
+std::pair<int, COLORREF> InkOf(HWND hWnd, COLORREF background)
 {
-    FieldForm form(status.MainWindow());
-    kvHoverButton& button = Add(form, kHover, "Go", ColouredHoverLook);
-    button.EnableWindow(FALSE);
-    flushEvents();
-    ExpectDrawn(button, kvHoverDisabled);
-}
-
-// ---- the hyperlink ----
-
-HCURSOR LibraryHand()
-{
-    return ::LoadCursorA(::GetModuleHandleA("kvWin.dll"), MAKEINTRESOURCE(IDC_KVHAND));
-}
-
-TEST_F(HoverButtonTest, HyperlinkShowsTheLibrarysHandOverItsText)
-{
-    struct Row {
-        const char* name;
-        bool hyperlink, enabled;
-        UINT hitTest;
-        bool hand;
-    };
-    const Row rows[] = {
-        {"an enabled hyperlink", true, true, HTCLIENT, true},
-        {"a disabled hyperlink", true, false, HTCLIENT, false},
-        {"outside the client area", true, true, HTBORDER, false},
-        {"a standard button", false, true, HTCLIENT, false},
-    };
-    ASSERT_NE(LibraryHand(), nullptr);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        FieldForm form(status.MainWindow());
-        kvHoverButton& button = Add(form, kHover, "Go", [&](kvHoverButton& b) {
-            if (row.hyperlink)
-                b.SetStandardHyperlinkLook();
-        });
-        button.EnableWindow(row.enabled);
-        const HCURSOR hArrow = ::SetCursor(::LoadCursorA(nullptr, IDC_ARROW));
-        EXPECT_EQ(button.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(button.m_hWnd),
-                                     MAKELPARAM(row.hitTest, WM_MOUSEMOVE)),
-                  0);
-        EXPECT_EQ(::GetCursor() == LibraryHand(), row.hand);
-        ::SetCursor(hArrow);
-    }
-}
-
-// Rows of the button that hold some of the caption, and the longest run of
-// caption pixels in one of them compared with the caption's width.
-struct CaptionInk {
-    int rows = 0;
-    int widest = 0;     // of the caption's pixels, from leftmost to rightmost
-    int longestRun = 0; // of caption pixels side by side in one row
-    COLORREF colour = CLR_INVALID;
-};
-
-CaptionInk InkOf(const ClientPixels& pixels, COLORREF background)
-{
-    CaptionInk ink;
-    int left = pixels.Width(), right = -1;
+    const ClientPixels pixels(hWnd);
+    std::pair<int, COLORREF> ink{0, CLR_INVALID};
     for (int y = 0; y < pixels.Height(); ++y) {
-        int run = 0;
-        bool any = false;
-        for (int x = 0; x < pixels.Width(); ++x) {
-            const bool inked = pixels.At(x, y) != background;
-            run = inked ? run + 1 : 0;
-            ink.longestRun = std::max(ink.longestRun, run);
-            if (inked) {
-                any = true;
-                left = std::min(left, x);
-                right = std::max(right, x);
-                ink.colour = pixels.At(x, y);
-            }
+        for (int x = 0, run = 0; x < pixels.Width(); ++x) {
+            run = pixels.At(x, y) != background ? run + 1 : 0;
+            ink.first = std::max(ink.first, run);
+            ink.second = run > 0 ? pixels.At(x, y) : ink.second;
         }
-        ink.rows += any;
     }
-    ink.widest = right - left + 1;
     return ink;
 }
 
-TEST_F(HoverButtonTest, HyperlinkIsUnderlinedAndHighlightedUnderTheMouse)
+TEST_F(HoverButtonTest, HyperlinkIsUnderlinedHighlightedAndShowsTheLibrarysHand)
 {
     FieldForm form(status.MainWindow());
-    kvHoverButton& link = Add(form, kHover, "mmmm mmmm", [](kvHoverButton& b) { b.SetStandardHyperlinkLook(); });
-    kvHoverButton& plain = Add(form, kOther, "mmmm mmmm", [](kvHoverButton& b) {
-        b.SetStandardHyperlinkLook();
-        b.SetTextUnderline(false);
-    }, CRect(10, 140, 130, 170));
+    kvHoverButton& link = Add(form, kHover, "m m m m", [](kvHoverButton& b) { b.SetStandardHyperlinkLook(); });
+    kvHoverButton& standard = Add(form, kOther, "Go", {}, kSecondRect);
     const COLORREF parent = ClientPixels(form.dialog).At(5, 95);
-    const CaptionInk underlined = InkOf(ClientPixels(link), parent);
-    const CaptionInk notUnderlined = InkOf(ClientPixels(plain), parent);
-    EXPECT_EQ(underlined.longestRun, underlined.widest) << "one line under the whole caption";
-    EXPECT_LT(notUnderlined.longestRun, notUnderlined.widest / 2);
-    EXPECT_GT(underlined.rows, notUnderlined.rows);
-    EXPECT_EQ(underlined.colour, ::GetSysColor(COLOR_BTNTEXT));
-
+    EXPECT_EQ(InkOf(link, parent).first, link.GetFitButtonSize().cx - 2) << "one line under the whole caption";
+    EXPECT_EQ(InkOf(link, parent).second, ::GetSysColor(COLOR_BTNTEXT));
     MoveMouseTo(link, kInside);
-    const ClientPixels hovered(link);
-    EXPECT_EQ(InkOf(hovered, parent).colour, ::GetSysColor(COLOR_HIGHLIGHT));
-    EXPECT_EQ(hovered.At(0, 0), parent) << "no background of its own";
+    EXPECT_EQ(InkOf(link, parent).second, ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(ClientPixels(link).At(0, 0), parent) << "no background of its own";
     MoveMouseTo(link, kOutside);
-}
 
-// ---- keyboard and focus ----
-
-TEST_F(HoverButtonTest, SpaceAndTheMnemonicClick)
-{
-    struct Row {
-        const char* name;
-        bool hotkey;
-        bool mnemonic;  // Alt+G from the field, else Space on the button
-        int clicks;
+    const HCURSOR hHand = ::LoadCursorA(::GetModuleHandleA("kvWin.dll"), MAKEINTRESOURCE(IDC_KVHAND));
+    const std::tuple<const char*, CWnd*, bool, UINT, bool> rows[] = {
+        {"the hyperlink's hand", &link, true, HTCLIENT, true},
+        {"only over the client area", &link, true, HTBORDER, false},
+        {"none for a standard button", &standard, true, HTCLIENT, false},
+        {"none for a disabled hyperlink", &link, false, HTCLIENT, false},
     };
-    const Row rows[] = {
-        {"Space", true, false, 1},
-        {"the mnemonic", true, true, 1},
-        {"no mnemonic when hotkeys are off", false, true, 0},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        FieldForm form(status.MainWindow());
-        kvEdit& field = form.AddField(kAmount, nullptr, "1");
-        kvHoverButton& button = Add(form, kHover, "&Go", [&](kvHoverButton& b) { b.SetAllowHotkey(row.hotkey); });
-        EXPECT_EQ(button.SendMessage(WM_GETDLGCODE) == DLGC_STATIC, !row.hotkey);
-        FocusForInput(form.dialog, row.mnemonic ? field : static_cast<CWnd&>(button));
-        MessageLog log;
-        MessageRecorder recorder(log, {WM_COMMAND});
-        recorder.Watch(form.dialog, "dialog");
-        if (row.mnemonic)
-            PressKey('G', false, false, true);
-        else
-            PressKey(VK_SPACE);
-        EXPECT_EQ(Clicks(log, button), row.clicks);
+    for (const auto& [name, button, enabled, hitTest, hand] : rows) {
+        button->EnableWindow(enabled);
+        ::SetCursor(::LoadCursorA(nullptr, IDC_ARROW));
+        button->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(button->m_hWnd), MAKELPARAM(hitTest, WM_MOUSEMOVE));
+        EXPECT_EQ(::GetCursor() == hHand, hand) << name;
     }
 }
 
-TEST_F(HoverButtonTest, AButtonThatRefusesTheFocusNeverTakesIt)
+TEST_F(HoverButtonTest, KeysClickAndTabPassesOverAButtonRefusingTheFocus)
 {
-    FieldForm form(status.MainWindow());
-    kvEdit& field = form.AddField(kAmount, nullptr, "1");
-    kvHoverButton& refusing = Add(form, kHover, "Go", [](kvHoverButton& b) { b.SetAllowFocus(false); });
-    kvHoverButton& later = Add(form, kOther, "Later", {}, CRect(10, 140, 130, 170));
-    EXPECT_EQ(refusing.GetStyle() & WS_TABSTOP, 0u);
-    EXPECT_NE(later.GetStyle() & WS_TABSTOP, 0u);
-    later.SetAllowFocus(false);
-    EXPECT_EQ(later.GetStyle() & WS_TABSTOP, 0u) << "refused after creation";
-
-    FocusForInput(form.dialog, field);
-    MessageLog log;
-    MessageRecorder recorder(log, {WM_COMMAND});
-    recorder.Watch(form.dialog, "dialog");
-    ClickAt(refusing, kInside);
-    EXPECT_EQ(::GetFocus(), field.m_hWnd) << "by click";
-    EXPECT_EQ(Clicks(log, refusing), 1);
-    PressKey(VK_TAB);
-    EXPECT_EQ(::GetFocus(), field.m_hWnd) << "by Tab";
+    // The mnemonic is Alt+G and Tab is pressed in the field, Space on the button.
+    const std::tuple<const char*, bool, bool, WORD, long> rows[] = {
+        {"Space", true, true, VK_SPACE, 1},
+        {"the mnemonic", true, true, 'G', 1},
+        {"no mnemonic when hotkeys are off", false, true, 'G', 0},
+        {"Tab, the focus refused after creation", true, false, VK_TAB, 0},
+    };
+    for (const auto& [name, hotkey, allowFocus, key, clicks] : rows) {
+        FieldForm form(status.MainWindow());
+        kvEdit& field = form.AddField(kAmount, nullptr, "1");
+        kvHoverButton& button = Add(form, kHover, "&Go", [&](kvHoverButton& b) { b.SetAllowHotkey(hotkey); });
+        button.SetAllowFocus(allowFocus);
+        FocusForInput(form.dialog, key == VK_SPACE ? static_cast<CWnd&>(button) : field);
+        const Clicks clicked(form.dialog);
+        PressKey(key, false, false, key == 'G');
+        EXPECT_EQ(clicked.Count(), clicks) << name;
+        EXPECT_TRUE(allowFocus || ::GetFocus() == field.m_hWnd) << name;
+    }
 }
-
-// ---- validation ----
 
 TEST_F(HoverButtonTest, ValidatesTheFieldItWasClickedFrom)
 {
-    struct Row {
-        const char* name;
-        UINT id;
-        bool pendingAfterClick;
-        UINT focusedAfterClick;
+    using NF = kvNumEditFormatter;
+    // Pending: the field's check is left to the button's action.
+    const std::tuple<const char*, UINT, bool> rows[] = {
+        {"a plain button lets the dialog check the field", kOther, false},
+        {"Cancel keeps the field pending", IDCANCEL, true},
     };
-    const Row rows[] = {
-        {"a plain button lets the dialog check the field", kOther, false, kAmount},
-        {"Cancel keeps the field pending", IDCANCEL, true, IDCANCEL},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, id, pending] : rows) {
+        SCOPED_TRACE(name);
         status.messages.clear();
         FieldForm form(status.MainWindow());
         kvEdit& amount = form.AddField(kAmount, new NF(3, 2, NF::Separators), "12,345");
-        kvHoverButton& button = Add(form, row.id, "Go");
+        kvHoverButton& button = Add(form, id, "Go");
         FocusForInput(form.dialog, amount);
         ClickAt(button, kInside);
-        EXPECT_EQ(::GetFocus(), ::GetDlgItem(form.dialog, static_cast<int>(row.focusedAfterClick)));
-        EXPECT_EQ(button.GetPendingCtrl() != nullptr, row.pendingAfterClick);
-        EXPECT_EQ(status.messages.size(), row.pendingAfterClick ? 0u : 1u);
-        if (!row.pendingAfterClick)
-            continue;
-        EXPECT_FALSE(button.ValidatePendingCtrl());
+        EXPECT_EQ(::GetFocus(), pending ? button.m_hWnd : amount.m_hWnd);
+        EXPECT_EQ(status.messages.size(), pending ? 0u : 1u);
+        EXPECT_EQ(button.ValidatePendingCtrl(), !pending);
         flushEvents();
         EXPECT_EQ(::GetFocus(), amount.m_hWnd);
-        EXPECT_EQ(SelOf(amount), std::make_pair(0, 6));
         EXPECT_EQ(status.messages.size(), 1u);
-        EXPECT_EQ(button.GetPendingCtrl(), nullptr);
     }
+}
+
+// Pictures, top row first: '#' dark (gray 35), '.' light (gray 204), 'T'
+// transparent; read back also 'S' shadow, 'H' highlight, 'a' gray 35, 'b' gray
+// 204, 'W' white, 'K' black.
+COLORREF ColourOf(char code)
+{
+    const COLORREF colours[] = {RGB(20, 40, 60),  RGB(220, 200, 180),  kMagenta, ::GetSysColor(COLOR_BTNSHADOW),
+                                ::GetSysColor(COLOR_3DHILIGHT), RGB(35, 35, 35), RGB(204, 204, 204),
+                                RGB(255, 255, 255), RGB(0, 0, 0)};
+    return colours[std::string("#.TSHabWK").find(code)];
+}
+
+// A device-dependent bitmap, as LoadBitmap makes them.
+void MakeBitmap(CBitmap& bitmap, const std::vector<std::string>& picture)
+{
+    std::vector<DWORD> bits;
+    for (const std::string& row : picture) {
+        for (const char code : row)
+            bits.push_back(RGB(GetBValue(ColourOf(code)), GetGValue(ColourOf(code)),
+                               GetRValue(ColourOf(code))));  // 0x00RRGGBB
+    }
+    bitmap.CreateBitmap(static_cast<int>(picture[0].size()), static_cast<int>(picture.size()), 1, 32, bits.data());
+}
+
+TEST_F(HoverButtonTest, ImageCopiesReadBackPixelByPixel)
+{
+    const int kMask = -1;  // in place of a GrayBitmapTypes
+    const std::tuple<const char*, int, std::vector<std::string>> rows[] = {
+        {"plain", kvHoverButton::GrayPlain, {"abTa", "bbab", "Tbbb"}},
+        {"embossed", kvHoverButton::GrayEmbossed, {"STTS", "THST", "TTTH"}},
+        {"mask", kMask, {"KKWK", "KKKK", "WKKK"}},
+    };
+    CBitmap source;
+    MakeBitmap(source, {"#.T#", "..#.", "T..."});
+    const HDC hDC = ::CreateCompatibleDC(nullptr);
+    for (const auto& [name, type, expected] : rows) {
+        CBitmap copy;
+        ASSERT_TRUE(type == kMask ? kvHoverButton::BuildMaskBitmap(&source, &copy, kMagenta)
+                                  : kvHoverButton::BuildGrayBitmap(&source, &copy, kMagenta,
+                                                                   static_cast<kvHoverButton::GrayBitmapTypes>(type)));
+        const HGDIOBJ hOld = ::SelectObject(hDC, copy.GetSafeHandle());
+        for (int i = 0; i < 12; ++i)
+            EXPECT_EQ(::GetPixel(hDC, i % 4, i / 4), ColourOf(expected[i / 4][i % 4])) << name << ", pixel " << i;
+        ::SelectObject(hDC, hOld);
+    }
+    ::DeleteDC(hDC);
+}
+
+TEST_F(HoverButtonTest, PicturesOfEveryLookInEveryStateAndNoGdiObjectLeftBehind)
+{
+    ::CreateDirectoryA("pictures", nullptr);
+    // A 16 by 16 diamond, dark with a light middle, on magenta; its mask and its
+    // light gray copy for the disabled state.
+    std::vector<std::string> diamond(16, std::string(16, 'T'));
+    for (int i = 0; i < 256; ++i) {
+        const int distance = std::abs(2 * (i % 16) - 15) + std::abs(2 * (i / 16) - 15);
+        diamond[i / 16][i % 16] = distance < 8 ? '.' : distance < 16 ? '#' : 'T';
+    }
+    CBitmap image, mask, gray, grayMask;
+    MakeBitmap(image, diamond);
+    kvHoverButton::BuildMaskBitmap(&image, &mask, kMagenta);
+    kvHoverButton::BuildGrayBitmap(&image, &gray, kMagenta, kvHoverButton::GrayLight);
+    kvHoverButton::BuildMaskBitmap(&gray, &grayMask, kMagenta);
+    const std::tuple<std::string, const char*, std::function<void(kvHoverButton&)>> looks[] = {
+        {"standard", "&Save", [](kvHoverButton& b) { b.SetStandardButtonLook(); }},
+        {"flat", "&Print", [](kvHoverButton& b) { b.SetStandardHoverLook(); }},
+        {"hyperlink", "www.example.com", [](kvHoverButton& b) { b.SetStandardHyperlinkLook(); }},
+        {"image", "", [&](kvHoverButton& b) {
+             b.SetStandardHoverLook();
+             b.SetBitmap(kvHoverButton::HoverAllStates, &image, &mask);
+             b.SetBitmap(kvHoverButton::HoverDisabled, &gray, &grayMask);
+         }},
+    };
+    for (const auto& [look, caption, setUp] : looks) {
+        FieldForm form(status.MainWindow());
+        CWnd& field = form.AddField(kAmount, nullptr);
+        kvHoverButton& button = Add(form, kHover, caption, setUp);
+        // Each state entered from the one before.
+        const std::pair<std::string, std::function<void()>> states[] = {
+            {"normal", [&] { MoveMouseTo(button, kOutside); }},
+            {"hovering", [&] { MoveMouseTo(button, kInside); }},
+            {"pushed", [&] { PressLeftButton(true); }},
+            {"focused", [&] { MoveMouseTo(button, kOutside), PressLeftButton(false), button.SetFocus(); }},
+            {"disabled", [&] { field.SetFocus(), button.EnableWindow(FALSE); }},
+        };
+        for (const auto& [state, enter] : states) {
+            enter();
+            flushEvents();
+            const ClientPixels pixels(button);
+            EXPECT_TRUE(pixels.WriteBmp("pictures/hover-" + look + "-" + state + ".bmp"));
+            if (look == "image" && state == "normal") {  // the corner of the image, its middle and its edge
+                EXPECT_EQ(std::make_tuple(pixels.At(52, 7), pixels.At(59, 14), pixels.At(53, 14)),
+                          std::make_tuple(pixels.At(2, 2), ColourOf('.'), ColourOf('#')));
+            }
+        }
+    }
+
+    // A thousand buttons, each with an underlined caption, a bitmap and a frame.
+    FieldForm form(status.MainWindow());
+    GuiObjectCounter counter;
+    const GuiObjectCounts before = counter.Count();
+    for (int i = 0; i < 1000; ++i) {
+        kvHoverButton button;
+        button.SetStandardHyperlinkLook();
+        button.SetBitmap(kvHoverButton::HoverAllStates, &image, &mask);
+        button.SetDrawButtonFrame(kvHoverButton::HoverAllStates, kvHoverButton::FrameThin);
+        button.Create("&Link", WS_CHILD | WS_VISIBLE, kRect, &form.dialog, kHover);
+        button.SetFocus();
+        button.SizeToContent();
+        button.UpdateWindow();
+        button.DestroyWindow();
+    }
+    flushEvents();
+    EXPECT_EQ(counter.Count().libraryGdi, before.libraryGdi);
 }
 
 }  // namespace
