@@ -429,7 +429,7 @@ void kvBmpButton::SetToolTip(int bOn)
             m_toolTip.DestroyWindow();
         return;
     }
-    if (GetToolTip() || !m_toolTip.Create(this))
+    if (m_hWnd == nullptr || GetToolTip() || !m_toolTip.Create(this))
         return;
     const CString text = GetToolTipText();
     m_toolTip.AddTool(this, text);
@@ -480,6 +480,8 @@ CSize kvBmpButton::GetFitButtonSize() const { return kvBmpButtonLayout::FitSize(
 
 void kvBmpButton::SizeToContent()
 {
+    if (m_hWnd == nullptr)
+        return;
     const CSize size = GetFitButtonSize();
     SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -1,6 +1,6 @@
 // The gray copy of a palettized image: its colour table rewritten to the four
 // grays of the standard palette, the transparent colour kept, true colour left
-// alone; and the palette made of the table.
+// alone; and how much of a resource the table takes.
 #include "buttons/kvDibColorTable.h"
 
 #include <gtest/gtest.h>
@@ -114,16 +114,6 @@ TEST(ImageGray, OnlyTheColourTableIsRewritten)
         EXPECT_EQ(kvDibColorTable::PaletteEntries(dib.header).size(), static_cast<size_t>(row.colours));
     }
     EXPECT_EQ(kvDibColorTable::MakeGray(nullptr, kNoTransparent), 0);
-}
-
-TEST(ImageGray, PaletteOfTheColourTable)
-{
-    const Dib dib(1, {RGB(10, 20, 30), RGB(200, 100, 50)});
-    const std::vector<PALETTEENTRY> palette = kvDibColorTable::PaletteEntries(dib.header);
-    ASSERT_EQ(palette.size(), 2u);
-    EXPECT_EQ(RGB(palette[0].peRed, palette[0].peGreen, palette[0].peBlue), RGB(10, 20, 30));
-    EXPECT_EQ(RGB(palette[1].peRed, palette[1].peGreen, palette[1].peBlue), RGB(200, 100, 50));
-    EXPECT_EQ(palette[0].peFlags | palette[1].peFlags, 0);
 }
 
 struct FitRow {

@@ -17,7 +17,10 @@
 #include "library/resource.h"
 
 #include <commctrl.h>
+#include <uxtheme.h>
 
+#include <algorithm>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -112,8 +115,8 @@ L LayoutOf(const kvBmpButton& button, L::textPos pos, DWORD style, bool pressed)
 
 // The bitmap's quadrants inside the image rectangle and its transparent border
 // showing the face; the caption inside its rectangle; the plain face elsewhere
-// inside the frame.
-void ExpectDrawnAsLaidOut(const ClientPixels& pixels, const L& layout)
+// inside the frame (and inside the focus rectangle, with a margin of 5).
+void ExpectDrawnAsLaidOut(const ClientPixels& pixels, const L& layout, int margin = 3)
 {
     const CRect& image = layout.image;
     const COLORREF face = FaceOf(pixels);
@@ -121,7 +124,7 @@ void ExpectDrawnAsLaidOut(const ClientPixels& pixels, const L& layout)
     EXPECT_EQ(pixels.At(image.left + 12, image.top + 3), RGB(0, 0, 255));
     EXPECT_EQ(pixels.At(image.left, image.top), face) << "the transparent border";
     CRect inside = layout.face;
-    inside.DeflateRect(3, 3);
+    inside.DeflateRect(margin, margin);
     int strayPixels = 0, captionPixels = 0;
     for (int y = inside.top; y < inside.bottom; ++y) {
         for (int x = inside.left; x < inside.right; ++x) {
@@ -169,8 +172,6 @@ TEST_F(WindowTest, BmpButtonDrawsEachArrangementAsLaidOut)
         const auto pos = L::textPos(i / 9);
         const Arrangement& arrangement = kAlignments[i % 9];
         SCOPED_TRACE(std::string("caption ") + kPositionNames[pos] + ", " + arrangement.name);
-        EXPECT_EQ(buttons[i]->GetHorizontalAlignment(), arrangement.style & BS_CENTER ? arrangement.style & BS_CENTER
-                                                                                      : DWORD(BS_CENTER));
         ExpectDrawnAsLaidOut(ClientPixels(*buttons[i]), LayoutOf(*buttons[i], pos, arrangement.style, false));
     }
 }
@@ -179,71 +180,119 @@ TEST_F(WindowTest, BmpButtonPressedMovesImageAndCaptionByOnePixel)
 {
     ButtonHost host(200, 100);
     auto button = MakeButton(host, L::TextRight, 0, CRect(10, 10, 130, 60));
-    const L released = LayoutOf(*button, L::TextRight, 0, false);
-    const L pressed = LayoutOf(*button, L::TextRight, 0, true);
-    ASSERT_EQ(pressed.image.TopLeft(), released.image.TopLeft() + CPoint(1, 1));
-
     MoveMouseTo(*button, CPoint(60, 25));
     PressLeftButton(true);
     const ClientPixels down(*button);
     down.WriteBmp(PicturePath("pressed"));
     PressLeftButton(false);
 
-    EXPECT_EQ(down.At(pressed.image.left + 1, pressed.image.top + 1), RGB(255, 0, 0));
-    EXPECT_EQ(down.At(released.image.left + 1, released.image.top + 1), FaceOf(down)) << "the border moved in";
-    CRect inside = pressed.face;
-    inside.DeflateRect(3, 3);
-    int captionPixels = 0;
-    for (int y = inside.top; y < inside.bottom; ++y) {
-        for (int x = inside.left; x < inside.right; ++x) {
-            if (down.At(x, y) == kCaption) {
-                EXPECT_TRUE(pressed.caption.PtInRect(CPoint(x, y))) << x << ", " << y;
-                ++captionPixels;
-            }
-        }
-    }
-    EXPECT_GT(captionPixels, 10);
+    ExpectDrawnAsLaidOut(down, LayoutOf(*button, L::TextRight, 0, true), 5);
     EXPECT_EQ(host.clicks, std::vector<UINT>{kButtonId}) << "the press ends in a click";
 }
 
-enum class Disabling { Real, Pseudo };
+enum class Look { Focused, Icon, Disabled, PseudoDisabled };
 
-// A pseudo-disabled button looks exactly like a disabled one: the embossed
-// image, the caption without its colour.
-TEST_F(WindowTest, BmpButtonDisabledAndPseudoDisabledLookAlike)
+const std::pair<Look, const char*> kLooks[] = {
+    {Look::Focused, "focused"},
+    {Look::Icon, "icon"},
+    {Look::Disabled, "disabled"},
+    {Look::PseudoDisabled, "pseudo-disabled"},
+};
+
+void Apply(kvBmpButton& button, Look look)
 {
-    ButtonHost host(300, 100);
-    std::vector<ClientPixels> looks;
-    for (Disabling disabling : {Disabling::Real, Disabling::Pseudo}) {
-        auto button = MakeButton(host, L::TextBelow, 0, CRect(10, 10, 110, 70));
-        if (disabling == Disabling::Pseudo)
-            button->SetPseudoDisableMode(TRUE);
-        button->EnableWindow(FALSE);
-        button->UpdateWindow();
-        EXPECT_EQ(::IsWindowEnabled(*button) != FALSE, disabling == Disabling::Pseudo);
-        EXPECT_FALSE(button->IsWindowEnabled());
-        looks.emplace_back(*button);
-        looks.back().WriteBmp(PicturePath(disabling == Disabling::Real ? "disabled" : "pseudo-disabled"));
+    switch (look) {
+    case Look::Focused:
+        button.SetFocus();
+        break;
+    case Look::Icon:
+        button.LoadIcon(IDI_BMPBUTTON_QUADRANTS, TRUE);
+        break;
+    case Look::PseudoDisabled:
+        button.SetPseudoDisableMode(TRUE);
+        [[fallthrough]];
+    case Look::Disabled:
+        button.EnableWindow(FALSE);
+        break;
+    }
+}
 
-        const L layout = LayoutOf(*button, L::TextBelow, 0, false);
-        int shadow = 0, colours = 0;
-        for (int y = 0; y < looks.back().Height(); ++y) {
-            for (int x = 0; x < looks.back().Width(); ++x) {
-                const COLORREF c = looks.back().At(x, y);
-                colours += c == kCaption || c == RGB(255, 0, 0) || c == RGB(0, 0, 255);
-                shadow += layout.image.PtInRect(CPoint(x, y)) && c == ::GetSysColor(COLOR_BTNSHADOW);
+int CountPixels(const ClientPixels& pixels, const CRect& area, const std::function<bool(COLORREF)>& which)
+{
+    int count = 0;
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x)
+            count += which(pixels.At(x, y));
+    }
+    return count;
+}
+
+int DifferingPixels(const ClientPixels& a, const ClientPixels& b)
+{
+    int count = 0;
+    for (int y = 0; y < a.Height(); ++y) {
+        for (int x = 0; x < a.Width(); ++x)
+            count += a.At(x, y) != b.At(x, y);
+    }
+    return count;
+}
+
+// Each look with the visual style and, the style switched off for the window,
+// with the classic frame. A pseudo-disabled button looks exactly like a
+// disabled one.
+TEST_F(WindowTest, BmpButtonLooksWithAndWithoutVisualStyle)
+{
+    ButtonHost host(200, 100);
+    for (const bool classic : {false, true}) {
+        std::vector<ClientPixels> disabledLooks;
+        for (const auto& [look, name] : kLooks) {
+            SCOPED_TRACE(std::string(classic ? "classic, " : "themed, ") + name);
+            auto button = MakeButton(host, L::TextBelow, 0, CRect(10, 10, 110, 70));
+            if (classic)
+                ::SetWindowTheme(*button, L" ", L" ");  // matches no style: no theme
+            Apply(*button, look);
+            button->RedrawWindow();
+            flushEvents();
+            const ClientPixels pixels(*button);
+            pixels.WriteBmp(PicturePath(std::string(classic ? "classic-" : "themed-") + name));
+            const COLORREF face = FaceOf(pixels);
+            if (classic)
+                EXPECT_EQ(face, ::GetSysColor(COLOR_BTNFACE));
+            const L layout = LayoutOf(*button, L::TextBelow, 0, false);
+            const CRect& image = layout.image;
+            switch (look) {
+            case Look::Focused: {
+                CRect ring = layout.face;
+                ring.DeflateRect(3, 3);
+                const auto isFace = [face](COLORREF c) { return c == face; };
+                EXPECT_GT(ring.Width() - CountPixels(pixels, CRect(ring.left, ring.top, ring.right, ring.top + 1), isFace),
+                          ring.Width() / 3) << "the focus rectangle 3 pixels inside the face";
+                EXPECT_EQ(CountPixels(pixels, CRect(ring.left + 1, ring.top + 1, ring.right - 1, ring.top + 2), isFace),
+                          ring.Width() - 2);
+                break;
+            }
+            case Look::Icon:
+                EXPECT_EQ(button->GetImageSize(), CSize(16, 16)) << "the icon at its resource's size";
+                EXPECT_EQ(button->GetButtonSize(), button->GetFitButtonSize());
+                EXPECT_EQ(pixels.At(image.left + 3, image.top + 3), RGB(255, 0, 0));
+                EXPECT_EQ(pixels.At(image.left + 12, image.top + 3), RGB(0, 0, 128));
+                EXPECT_EQ(pixels.At(image.left + 1, image.top + 1), face) << "the icon's mask";
+                break;
+            case Look::Disabled:
+            case Look::PseudoDisabled:
+                EXPECT_EQ(::IsWindowEnabled(*button) != FALSE, look == Look::PseudoDisabled);
+                EXPECT_EQ(CountPixels(pixels, layout.face,
+                                      [](COLORREF c) { return c == kCaption || c == RGB(255, 0, 0) || c == RGB(0, 0, 255); }),
+                          0) << "no caption colour, no colour of the image";
+                EXPECT_GT(CountPixels(pixels, image, [](COLORREF c) { return c == ::GetSysColor(COLOR_BTNSHADOW); }), 20)
+                    << "the image embossed";
+                disabledLooks.push_back(pixels);
+                break;
             }
         }
-        EXPECT_EQ(colours, 0) << "no caption colour, no colour of the image";
-        EXPECT_GT(shadow, 20) << "the image embossed";
+        ASSERT_EQ(disabledLooks.size(), 2u);
+        EXPECT_EQ(DifferingPixels(disabledLooks[0], disabledLooks[1]), 0) << "disabled and pseudo-disabled alike";
     }
-    ASSERT_EQ(looks.size(), 2u);
-    int differing = 0;
-    for (int y = 0; y < looks[0].Height(); ++y) {
-        for (int x = 0; x < looks[0].Width(); ++x)
-            differing += looks[0].At(x, y) != looks[1].At(x, y);
-    }
-    EXPECT_EQ(differing, 0);
 }
 
 TEST_F(WindowTest, BmpButtonPseudoDisabledTakesNoInput)
@@ -377,133 +426,103 @@ TEST_F(WindowTest, BmpButtonToolTipIsTheSecondFieldOfTheText)
     EXPECT_EQ(ToolTipOf(host), nullptr);
 }
 
+// A Cancel bitmap button holds the invalid field until the owner checks it.
 TEST_F(WindowTest, BmpButtonHoldsTheFieldUntilItIsChecked)
 {
-    struct Row {
-        const char* name;
-        bool verify;  // WM_KV_VERIFY rather than ValidatePendingCtrl
-        LRESULT result;
-    };
-    const Row rows[] = {
-        {"ValidatePendingCtrl forces the check", false, false},
-        {"verifying the button verifies its field", true, kvEditValidator::Invalid},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        status.messages.clear();
-        FieldForm form(status.MainWindow());
-        kvEdit& amount = form.AddField(101, new kvNumEditFormatter(3, 2, kvNumEditFormatter::Separators), "12,345");
-        kvBmpButton cancel(L::TextRight);
-        ASSERT_TRUE(cancel.Create("Cancel", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 60, 110, 90), &form.dialog,
-                                  IDCANCEL));
-        cancel.LoadBitmap(IDB_BMPBUTTON_QUADRANTS, FALSE, kMagenta);
-        FocusForInput(form.dialog, amount);
-        ClickAt(cancel, CPoint(10, 10));
-        ASSERT_EQ(::GetFocus(), cancel.m_hWnd);
-        ASSERT_EQ(cancel.GetPendingCtrl(), &amount);
-        EXPECT_TRUE(status.messages.empty()) << "Cancel validates nothing by itself";
+    FieldForm form(status.MainWindow());
+    kvEdit& amount = form.AddField(101, new kvNumEditFormatter(3, 2, kvNumEditFormatter::Separators), "12,345");
+    kvBmpButton cancel(L::TextRight);
+    ASSERT_TRUE(cancel.Create("Cancel", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 60, 110, 90), &form.dialog,
+                              IDCANCEL));
+    FocusForInput(form.dialog, amount);
+    ClickAt(cancel, CPoint(10, 10));
+    ASSERT_EQ(::GetFocus(), cancel.m_hWnd);
+    ASSERT_EQ(cancel.GetPendingCtrl(), &amount);
+    EXPECT_TRUE(status.messages.empty()) << "Cancel validates nothing by itself";
 
-        DWORD sel = 0;
-        const LRESULT result = row.verify ? cancel.SendMessage(WM_KV_VERIFY, reinterpret_cast<WPARAM>(&sel))
-                                          : LRESULT(cancel.ValidatePendingCtrl());
-        EXPECT_EQ(result, row.result);
-        flushEvents();
-        EXPECT_EQ(::GetFocus(), amount.m_hWnd);
-        EXPECT_EQ(status.messages.size(), 1u);
-        EXPECT_EQ(cancel.GetPendingCtrl(), nullptr);
-    }
+    EXPECT_FALSE(cancel.ValidatePendingCtrl());
+    flushEvents();
+    EXPECT_EQ(::GetFocus(), amount.m_hWnd);
+    EXPECT_EQ(status.messages.size(), 1u);
+    EXPECT_EQ(cancel.GetPendingCtrl(), nullptr);
 }
 
-// Icons and the gray bitmaps the button makes, which the object counter does not
-// watch: each must be gone once the buttons are.
-class ImageHandleWatch {
-public:
-    ImageHandleWatch()
-    {
-        s_icons.clear();
-        s_bitmaps.clear();
-    }
+// Icons and gray bitmaps the library makes, which the object counter does not
+// watch: each must be gone once its button is.
+std::vector<HANDLE> g_madeIcons;
+std::vector<HANDLE> g_madeBitmaps;
 
-    int Alive() const
-    {
-        int alive = 0;
-        for (HANDLE h : s_bitmaps)
-            alive += ::GetObjectType(h) != 0;
-        for (HANDLE h : s_icons) {
-            ICONINFO info{};
-            if (::GetIconInfo(static_cast<HICON>(h), &info)) {
-                ++alive;
-                ::DeleteObject(info.hbmColor);
-                ::DeleteObject(info.hbmMask);
-            }
-        }
-        return alive;
-    }
+template <std::vector<HANDLE>& made, auto Create, typename... Args>
+auto WINAPI KeepImage(Args... args)
+{
+    const auto handle = Create(args...);
+    if (handle != nullptr)
+        made.push_back(handle);
+    return handle;
+}
 
-private:
-    static HANDLE Keep(std::vector<HANDLE>& live, HANDLE h)
-    {
-        if (h != nullptr)
-            live.push_back(h);
-        return h;
-    }
-    static HICON WINAPI CreateIconIndirect(PICONINFO info) { return HICON(Keep(s_icons, ::CreateIconIndirect(info))); }
-    static HICON WINAPI CreateIconFromResourceEx(PBYTE bits, DWORD size, BOOL icon, DWORD version, int cx, int cy,
-                                                 UINT flags)
-    {
-        return HICON(Keep(s_icons, ::CreateIconFromResourceEx(bits, size, icon, version, cx, cy, flags)));
-    }
-    static HANDLE WINAPI LoadImageA(HINSTANCE hInst, LPCSTR name, UINT type, int cx, int cy, UINT flags)
-    {
-        return Keep(s_icons, ::LoadImageA(hInst, name, type, cx, cy, flags));
-    }
-    static HBITMAP WINAPI CreateDIBitmap(HDC hdc, const BITMAPINFOHEADER* header, DWORD init, const void* bits,
-                                         const BITMAPINFO* info, UINT usage)
-    {
-        return HBITMAP(Keep(s_bitmaps, ::CreateDIBitmap(hdc, header, init, bits, info, usage)));
-    }
-    static HICON WINAPI ImageListGetIcon(HIMAGELIST himl, int i, UINT flags)
-    {
-        return HICON(Keep(s_icons, ::ImageList_GetIcon(himl, i, flags)));
-    }
+bool IconExists(HANDLE handle)
+{
+    ICONINFO info{};
+    if (!::GetIconInfo(static_cast<HICON>(handle), &info))
+        return false;
+    ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+    return true;
+}
 
-    static inline std::vector<HANDLE> s_icons;
-    static inline std::vector<HANDLE> s_bitmaps;
-    ImportPatch m_patches[5] = {
-        {"kvWin.dll", "user32.dll", "CreateIconIndirect", reinterpret_cast<void*>(&CreateIconIndirect)},
-        {"kvWin.dll", "user32.dll", "CreateIconFromResourceEx", reinterpret_cast<void*>(&CreateIconFromResourceEx)},
-        {"kvWin.dll", "user32.dll", "LoadImageA", reinterpret_cast<void*>(&LoadImageA)},
-        {"kvWin.dll", "gdi32.dll", "CreateDIBitmap", reinterpret_cast<void*>(&CreateDIBitmap)},
-        {"afx.dll", "comctl32.dll", "ImageList_GetIcon", reinterpret_cast<void*>(&ImageListGetIcon)},
-    };
-};
+bool BitmapExists(HANDLE handle) { return ::GetObjectType(handle) == OBJ_BITMAP; }
 
-TEST_F(WindowTest, BmpButtonLeavesNoGdiObjectsBehind)
+// Without the modal watchdog of the window tests: there is no modal loop here,
+// and a thousand tool tip windows take longer than its time.
+TEST(BmpButtonGdi, AThousandButtonsLeaveNoObjectsBehind)
 {
     ButtonHost host(200, 100);
     CFont font;
     font.CreatePointFont(100, "Arial");
     GuiObjectCounter counter;
-    ImageHandleWatch images;
+    const ImportPatch watched[] = {
+        {"kvWin.dll", "user32.dll", "LoadImageA",
+         reinterpret_cast<void*>(&KeepImage<g_madeIcons, &::LoadImageA, HINSTANCE, LPCSTR, UINT, int, int, UINT>)},
+        {"kvWin.dll", "user32.dll", "CreateIconIndirect",
+         reinterpret_cast<void*>(&KeepImage<g_madeIcons, &::CreateIconIndirect, PICONINFO>)},
+        {"kvWin.dll", "user32.dll", "CreateIconFromResourceEx",
+         reinterpret_cast<void*>(
+             &KeepImage<g_madeIcons, &::CreateIconFromResourceEx, PBYTE, DWORD, BOOL, DWORD, int, int, UINT>)},
+        {"kvWin.dll", "gdi32.dll", "CreateDIBitmap",
+         reinterpret_cast<void*>(&KeepImage<g_madeBitmaps, &::CreateDIBitmap, HDC, const BITMAPINFOHEADER*, DWORD,
+                                            const void*, const BITMAPINFO*, UINT>)},
+    };
     const GuiObjectCounts start = counter.Count();
+    std::vector<int> leakingRounds;
     for (int i = 0; i < 1000; ++i) {
-        kvBmpButton button(L::textPos(i % 4));
-        button.Create("Save\nSaves the file", WS_CHILD | WS_VISIBLE, CRect(10, 10, 110, 70), &host, kButtonId);
-        if (i % 2 == 0)
-            button.LoadBitmap(IDB_BMPBUTTON_QUADRANTS, TRUE, kMagenta);
-        else
-            button.LoadIcon(IDI_BMPBUTTON_QUADRANTS, TRUE);
-        button.SetTextFont(&font);
-        button.SetToolTip(TRUE);
-        button.EnableWindow(i % 3 != 0);
-        button.UpdateWindow();
-        button.DestroyWindow();
+        {
+            kvBmpButton button(L::textPos(i % 4));
+            button.Create("Save\nSaves the file", WS_CHILD | WS_VISIBLE, CRect(10, 10, 110, 70), &host, kButtonId);
+            if (i % 2 == 0)
+                button.LoadBitmap(IDB_BMPBUTTON_QUADRANTS, TRUE, kMagenta);
+            else
+                button.LoadIcon(IDI_BMPBUTTON_QUADRANTS, TRUE);
+            button.SetTextFont(&font);
+            button.SetToolTip(TRUE);
+            button.EnableWindow(i % 3 != 0);
+            button.UpdateWindow();
+            button.DestroyWindow();
+        }
+        // Checked each round: handles of deleted objects come back in later ones.
+        if (std::any_of(g_madeIcons.begin(), g_madeIcons.end(), IconExists) ||
+            std::any_of(g_madeBitmaps.begin(), g_madeBitmaps.end(), BitmapExists))
+            leakingRounds.push_back(i);
+        g_madeIcons.clear();
+        g_madeBitmaps.clear();
         if (i % 100 == 0)
             pumpPendingEvents();
     }
     flushEvents();
     EXPECT_EQ(counter.Count(), start);
-    EXPECT_EQ(images.Alive(), 0);
+    EXPECT_EQ(leakingRounds, std::vector<int>{}) << "icons or gray bitmaps left behind";
+    for (const ImportPatch& patch : watched)
+        EXPECT_TRUE(patch.Active());
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 // The bitmap button's derived images of real resources, pixel by pixel: the gray
-// copy of a palettized bitmap and icon, the embossed copy of an icon, and the
-// palettes of their colour tables. Pictures go to pictures/.
+// copy of a palettized bitmap and icon, the embossed copy of an icon (icons drawn
+// over green, which shows through their transparent parts), and the palettes of
+// their colour tables.
 #include "BmpButtonTestResource.h"
+#include "ClientPixels.h"
 #include "WindowTest.h"
 
 #include "afx/CBitmap.h"
@@ -9,161 +11,123 @@
 #include "afx/CPalette.h"
 #include "buttons/kvBmpButton.h"
 
-#include <cstdio>
 #include <functional>
-#include <string>
-#include <vector>
 
 namespace {
 
 constexpr int kSize = 16;
 constexpr COLORREF kMagenta = RGB(255, 0, 255);
-constexpr COLORREF kGreen = RGB(0, 255, 0);  // behind icons: their transparent parts
+constexpr COLORREF kGreen = RGB(0, 255, 0);
 
 COLORREF Gray(BYTE level) { return RGB(level, level, level); }
-
-// The 16 x 16 pixels of a bitmap, or of an icon drawn over green.
-class Pixels16 {
-public:
-    explicit Pixels16(HBITMAP hBitmap) { Read(hBitmap); }
-    explicit Pixels16(HICON hIcon)
-    {
-        CClientDC screen(nullptr);
-        CDC memory;
-        memory.CreateCompatibleDC(&screen);
-        CBitmap canvas;
-        canvas.CreateCompatibleBitmap(&screen, kSize, kSize);
-        CBitmap* pOld = memory.SelectObject(&canvas);
-        memory.FillSolidRect(0, 0, kSize, kSize, kGreen);
-        ::DrawIconEx(memory, 0, 0, hIcon, kSize, kSize, 0, nullptr, DI_NORMAL);
-        memory.SelectObject(pOld);
-        Read(canvas);
-    }
-
-    COLORREF At(int x, int y) const
-    {
-        const DWORD pixel = m_pixels[static_cast<size_t>(y * kSize + x)];
-        return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF);
-    }
-
-    // Every pixel against the expected colour; the first few differences reported.
-    void ExpectEach(const std::function<COLORREF(int, int)>& expected) const
-    {
-        int wrong = 0;
-        for (int y = 0; y < kSize; ++y) {
-            for (int x = 0; x < kSize; ++x) {
-                if (At(x, y) != expected(x, y) && ++wrong <= 5)
-                    ADD_FAILURE() << "at " << x << ", " << y << ": " << std::hex << At(x, y) << " instead of "
-                                  << expected(x, y);
-            }
-        }
-        EXPECT_EQ(wrong, 0);
-    }
-
-    void WriteBmp(const std::string& name) const
-    {
-        ::CreateDirectoryA("pictures", nullptr);
-        BITMAPINFOHEADER header{sizeof header, kSize, -kSize, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        BITMAPFILEHEADER file{0x4D42, 0, 0, 0, sizeof file + sizeof header};
-        file.bfSize = file.bfOffBits + sizeof m_pixels;
-        FILE* out = std::fopen(("pictures/" + name + ".bmp").c_str(), "wb");
-        ASSERT_NE(out, nullptr);
-        std::fwrite(&file, sizeof file, 1, out);
-        std::fwrite(&header, sizeof header, 1, out);
-        std::fwrite(m_pixels, sizeof m_pixels, 1, out);
-        std::fclose(out);
-    }
-
-private:
-    void Read(HBITMAP hBitmap)
-    {
-        BITMAPINFO info{};
-        info.bmiHeader = BITMAPINFOHEADER{sizeof info.bmiHeader, kSize, -kSize, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        CClientDC screen(nullptr);
-        ASSERT_EQ(::GetDIBits(screen, hBitmap, 0, kSize, m_pixels, &info, DIB_RGB_COLORS), kSize);
-    }
-
-    DWORD m_pixels[kSize * kSize]{};
-};
-
 bool InsideBorder(int x, int y) { return x > 0 && x < kSize - 1 && y > 0 && y < kSize - 1; }
 bool InsideIcon(int x, int y) { return x >= 2 && x <= 13 && y >= 2 && y <= 13; }
+// The icon's red, navy and black parts: all but its white quadrant.
+bool DarkInIcon(int x, int y) { return InsideIcon(x, y) && (y < 8 || x < 8); }
 
-TEST_F(WindowTest, ImageGrayBitmapTakesTheFourGrays)
+using Expected = std::function<COLORREF(int x, int y)>;
+
+// Red 77 and blue 25 above, yellow 230 and cyan 178 below; magenta is transparent.
+COLORREF GrayBitmap(int x, int y)
 {
-    CBitmap gray;
-    ASSERT_TRUE(kvBmpButton::BuildGrayBitmap(MAKEINTRESOURCE(IDB_BMPBUTTON_QUADRANTS), kMagenta, &gray));
-    const Pixels16 pixels(static_cast<HBITMAP>(gray));
-    pixels.WriteBmp("imagegray-bitmap");
-    // Red 77 and blue 25 above, yellow 230 and cyan 178 below; magenta is transparent.
-    pixels.ExpectEach([](int x, int y) {
-        if (!InsideBorder(x, y))
-            return kMagenta;
-        return y < 8 ? Gray(x < 8 ? 128 : 0) : Gray(x < 8 ? 255 : 192);
-    });
-
-    CBitmap trueColour;
-    EXPECT_FALSE(kvBmpButton::BuildGrayBitmap(MAKEINTRESOURCE(IDB_BMPBUTTON_TRUECOLOUR), kMagenta, &trueColour));
-    EXPECT_EQ(trueColour.GetSafeHandle(), nullptr);
-    EXPECT_FALSE(kvBmpButton::BuildGrayBitmap(MAKEINTRESOURCE(IDB_BMPBUTTON_QUADRANTS + 100), kMagenta, &gray));
+    if (!InsideBorder(x, y))
+        return kMagenta;
+    return y < 8 ? Gray(x < 8 ? 128 : 0) : Gray(x < 8 ? 255 : 192);
 }
 
-TEST_F(WindowTest, ImageGrayIconKeepsItsMask)
+// Red 77 and navy 12 above, black and white below.
+COLORREF GrayIcon(int x, int y)
 {
-    HICON hGray = nullptr;
-    ASSERT_TRUE(kvBmpButton::BuildGrayIcon(MAKEINTRESOURCE(IDI_BMPBUTTON_QUADRANTS), &hGray));
-    const Pixels16 pixels(hGray);
-    ::DestroyIcon(hGray);
-    pixels.WriteBmp("imagegray-icon");
-    // Red 77 and navy 12 above, black and white below.
-    pixels.ExpectEach([](int x, int y) {
-        if (!InsideIcon(x, y))
-            return kGreen;
-        return y < 8 ? Gray(x < 8 ? 128 : 0) : Gray(x < 8 ? 0 : 255);
-    });
+    if (!InsideIcon(x, y))
+        return kGreen;
+    return y < 8 ? Gray(x < 8 ? 128 : 0) : Gray(x < 8 ? 0 : 255);
 }
 
-// Dark pixels take the shadow colour, with a highlight one pixel down and right
-// of them; light pixels show the face; the icon's mask stays.
-TEST_F(WindowTest, ImageGrayDisabledIconIsEmbossed)
+// Dark pixels take the shadow colour with a highlight one down and right of
+// them; light ones show the face.
+COLORREF EmbossedIcon(int x, int y)
 {
+    if (!InsideIcon(x, y))
+        return kGreen;
+    if (DarkInIcon(x, y))
+        return ::GetSysColor(COLOR_3DSHADOW);
+    return DarkInIcon(x - 1, y - 1) ? ::GetSysColor(COLOR_3DHILIGHT) : kvBmpButton::m_defaultButtonColor;
+}
+
+void ExpectEachPixel(const ClientPixels& pixels, int left, const Expected& expected)
+{
+    int wrong = 0;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            if (pixels.At(left + x, y) != expected(x, y) && ++wrong <= 3)
+                ADD_FAILURE() << "at " << x << ", " << y << ": " << std::hex << pixels.At(left + x, y);
+        }
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST_F(WindowTest, ImageGrayCopiesPixelByPixel)
+{
+    CBitmap grayBitmap;
+    HICON hGrayIcon = nullptr, hEmbossed = nullptr;
     const auto hIcon = static_cast<HICON>(
         ::LoadImageA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_BMPBUTTON_QUADRANTS), IMAGE_ICON, 0, 0, 0));
-    ASSERT_NE(hIcon, nullptr);
-    HICON hDisabled = nullptr;
-    EXPECT_TRUE(kvBmpButton::BuildDisabledImage(hIcon, CSize(kSize, kSize), hDisabled));
-    ::DestroyIcon(hIcon);
-    ASSERT_NE(hDisabled, nullptr);
-    const Pixels16 pixels(hDisabled);
-    ::DestroyIcon(hDisabled);
-    pixels.WriteBmp("imagegray-embossed");
+    ASSERT_TRUE(kvBmpButton::BuildGrayBitmap(MAKEINTRESOURCE(IDB_BMPBUTTON_QUADRANTS), kMagenta, &grayBitmap));
+    ASSERT_TRUE(kvBmpButton::BuildGrayIcon(MAKEINTRESOURCE(IDI_BMPBUTTON_QUADRANTS), &hGrayIcon));
+    EXPECT_TRUE(kvBmpButton::BuildDisabledImage(hIcon, CSize(kSize, kSize), hEmbossed));
+    ASSERT_NE(hEmbossed, nullptr);
 
-    const auto dark = [](int x, int y) { return InsideIcon(x, y) && (y < 8 || x < 8); };
-    pixels.ExpectEach([&dark](int x, int y) {
-        if (!InsideIcon(x, y))
-            return kGreen;
-        if (dark(x, y))
-            return ::GetSysColor(COLOR_3DSHADOW);
-        return dark(x - 1, y - 1) ? ::GetSysColor(COLOR_3DHILIGHT) : kvBmpButton::m_defaultButtonColor;
-    });
+    // The three copies side by side in a window, read back as a user sees them.
+    CWnd canvas;
+    ASSERT_TRUE(canvas.CreateEx(0, AfxRegisterWndClass(0), "derived images", WS_POPUP | WS_VISIBLE, 40, 40,
+                                3 * kSize, kSize, nullptr, nullptr));
+    ::SetForegroundWindow(canvas);
+    flushEvents();
+    {
+        CClientDC dc(&canvas);
+        dc.FillSolidRect(0, 0, 3 * kSize, kSize, kGreen);
+        CDC memory;
+        memory.CreateCompatibleDC(&dc);
+        CBitmap* pOld = memory.SelectObject(&grayBitmap);
+        dc.BitBlt(0, 0, kSize, kSize, &memory, 0, 0, SRCCOPY);
+        memory.SelectObject(pOld);
+        ::DrawIconEx(dc, kSize, 0, hGrayIcon, kSize, kSize, 0, nullptr, DI_NORMAL);
+        ::DrawIconEx(dc, 2 * kSize, 0, hEmbossed, kSize, kSize, 0, nullptr, DI_NORMAL);
+    }
+    const ClientPixels pixels(canvas);
+    ::CreateDirectoryA("pictures", nullptr);
+    pixels.WriteBmp("pictures/imagegray-bitmap-icon-embossed.bmp");
+    canvas.DestroyWindow();
+    for (HICON h : {hIcon, hGrayIcon, hEmbossed})
+        ::DestroyIcon(h);
+
+    ExpectEachPixel(pixels, 0, GrayBitmap);
+    ExpectEachPixel(pixels, kSize, GrayIcon);
+    ExpectEachPixel(pixels, 2 * kSize, EmbossedIcon);
+}
+
+TEST_F(WindowTest, ImageGrayTrueColourIsNotGrayed)
+{
+    CBitmap gray;
+    EXPECT_FALSE(kvBmpButton::BuildGrayBitmap(MAKEINTRESOURCE(IDB_BMPBUTTON_TRUECOLOUR), kMagenta, &gray));
+    EXPECT_EQ(gray.GetSafeHandle(), nullptr);
+    EXPECT_FALSE(kvBmpButton::BuildGrayBitmap(MAKEINTRESOURCE(IDB_BMPBUTTON_QUADRANTS + 100), kMagenta, &gray));
 }
 
 struct PaletteRow {
     const char* name;
-    std::function<int(CPalette&)> build;
+    int (*build)(LPCTSTR, CPalette&);
+    UINT id;
     int entries;  // 0: no palette
     int index;
     COLORREF colour;
 };
 
 const PaletteRow kPalettes[] = {
-    {"8-bit bitmap", [](CPalette& p) { return kvBmpButton::GetBitmapPalette(MAKEINTRESOURCE(IDB_BMPBUTTON_QUADRANTS), p); },
-     256, 1, RGB(255, 0, 0)},
-    {"4-bit icon", [](CPalette& p) { return kvBmpButton::GetIconPalette(MAKEINTRESOURCE(IDI_BMPBUTTON_QUADRANTS), p); },
-     16, 3, RGB(0, 0, 128)},
-    {"true-colour bitmap",
-     [](CPalette& p) { return kvBmpButton::GetBitmapPalette(MAKEINTRESOURCE(IDB_BMPBUTTON_TRUECOLOUR), p); }, 0, 0, 0},
-    {"missing icon", [](CPalette& p) { return kvBmpButton::GetIconPalette(MAKEINTRESOURCE(1), p); }, 0, 0, 0},
+    {"8-bit bitmap", kvBmpButton::GetBitmapPalette, IDB_BMPBUTTON_QUADRANTS, 256, 1, RGB(255, 0, 0)},
+    {"4-bit icon", kvBmpButton::GetIconPalette, IDI_BMPBUTTON_QUADRANTS, 16, 3, RGB(0, 0, 128)},
+    {"true-colour bitmap", kvBmpButton::GetBitmapPalette, IDB_BMPBUTTON_TRUECOLOUR, 0, 0, 0},
+    {"missing icon", kvBmpButton::GetIconPalette, 1, 0, 0, 0},
 };
 
 TEST_F(WindowTest, ImageGrayPaletteOfTheColourTable)
@@ -171,11 +135,10 @@ TEST_F(WindowTest, ImageGrayPaletteOfTheColourTable)
     for (const PaletteRow& row : kPalettes) {
         SCOPED_TRACE(row.name);
         CPalette palette;
-        EXPECT_EQ(row.build(palette) != FALSE, row.entries != 0);
-        if (row.entries == 0) {
-            EXPECT_EQ(palette.GetSafeHandle(), nullptr);
+        EXPECT_EQ(row.build(MAKEINTRESOURCE(row.id), palette) != FALSE, row.entries != 0);
+        EXPECT_EQ(palette.GetSafeHandle() != nullptr, row.entries != 0);
+        if (row.entries == 0)
             continue;
-        }
         EXPECT_EQ(palette.GetEntryCount(), row.entries);
         PALETTEENTRY entry{};
         palette.GetPaletteEntries(static_cast<UINT>(row.index), 1, &entry);
