@@ -2,8 +2,8 @@
 // the pending control carries.
 #include "buttons/kvButton.h"
 
+#include "buttons/kvCreateButton.h"
 #include "formatting/kvMessages.h"
-#include "formatting/kvParentFont.h"
 #include "menus/kvCtrlContextMenu.h"
 #include "menus/kvShowContextMenu.h"
 
@@ -20,10 +20,7 @@ kvButton::~kvButton() = default;
 
 BOOL kvButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    if (!CButton::Create(lpszCaption, dwStyle, rect, pParentWnd, nID))
-        return FALSE;
-    kvSetParentFont(this, pParentWnd);
-    return TRUE;
+    return kvCreateButton(*this, lpszCaption, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL kvButton::DestroyWindow()

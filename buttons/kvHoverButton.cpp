@@ -3,6 +3,7 @@
 // validation, which the pending control carries.
 #include "buttons/kvHoverButton.h"
 
+#include "buttons/kvCreateButton.h"
 #include "afx/AfxExtension.h"
 #include "afx/CBitmap.h"
 #include "afx/CBrush.h"
@@ -12,7 +13,6 @@
 #include "afx/CImageList.h"
 #include "afx/CPen.h"
 #include "formatting/kvMessages.h"
-#include "formatting/kvParentFont.h"
 #include "library/resource.h"
 #include "menus/kvCtrlContextMenu.h"
 #include "menus/kvShowContextMenu.h"
@@ -124,10 +124,7 @@ BOOL kvHoverButton::PreCreateWindow(CREATESTRUCT& cs)
 
 BOOL kvHoverButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    if (!CButton::Create(lpszCaption, dwStyle, rect, pParentWnd, nID))
-        return FALSE;
-    kvSetParentFont(this, pParentWnd);
-    return TRUE;
+    return kvCreateButton(*this, lpszCaption, dwStyle, rect, pParentWnd, nID);
 }
 
 // ---- settings ----
