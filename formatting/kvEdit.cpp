@@ -196,36 +196,41 @@ CString kvEdit::_SelectedText() const
 // copies but does not change the text.
 bool kvEdit::_TakesFormattedEdits() const { return m_pFormatter != nullptr && !_IsReadOnly(); }
 
+void kvEdit::_WriteText(const CString& text)
+{
+    m_bSetTextPassThrough = false;
+    SetWindowText(text);
+    m_bSetTextPassThrough = true;
+}
+
 // The native control clears its modified flag on every text it is given; the
 // field's own writes must not make the user's changes look unchanged.
 void kvEdit::_SetWindowText(const CString& text)
 {
     const BOOL modified = GetModify();
-    m_bSetTextPassThrough = false;
-    SetWindowText(text);
-    m_bSetTextPassThrough = true;
+    _WriteText(text);
     SetModify(modified);
 }
 
 void kvEdit::_Select(unsigned long sel) { SetSel(kvSelStart(sel), kvSelEnd(sel)); }
 
-void kvEdit::_ReportChange(const CString& before, const CString& after)
+// A changed text is the user's change: it marks the field modified whatever
+// the flag was, so there is nothing to keep.
+void kvEdit::_ShowEdit(const CString& before, const CString& text, unsigned long sel)
 {
-    if (before == after)
+    if (text == before) {
+        _SetWindowText(text);
+        _Select(sel);
         return;
+    }
+    _WriteText(text);
+    _Select(sel);
     SetModify(TRUE);
     kvNotifyParent(this, EN_CHANGE);
 }
 
-void kvEdit::_ShowEdit(const CString& before, const CString& text, unsigned long sel)
-{
-    _SetWindowText(text);
-    _Select(sel);
-    _ReportChange(before, text);
-}
-
 // The native control announces every text it is given; the field's own writes
-// are announced by _ReportChange, and only when they change the text.
+// are announced by _ShowEdit, and only when they change the text.
 BOOL kvEdit::OnChangeReflect() { return m_bSetTextPassThrough ? FALSE : TRUE; }
 
 // ---- keyboard ----

@@ -56,12 +56,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // Writes the field's own text past OnSetText, keeping the modified flag.
+    // Writes the field's own text past OnSetText.
+    void _WriteText(const CString& text);
+    // The same, keeping the modified flag.
     void _SetWindowText(const CString& text);
     void _Select(unsigned long sel);
-    // Marks the field modified and tells the parent, when the text differs.
-    void _ReportChange(const CString& before, const CString& after);
-    // Write back, select, report change: the end of every formatted edit.
+    // Write back and select; a changed text marks the field modified and
+    // tells the parent: the end of every formatted edit.
     void _ShowEdit(const CString& before, const CString& text, unsigned long sel);
     CString _Text() const;
     bool _IsReadOnly() const;
