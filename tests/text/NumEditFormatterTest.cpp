@@ -15,77 +15,49 @@ namespace {
 using NF = kvNumEditFormatter;
 constexpr unsigned long kAmount = NF::Separators | NF::ShowZero | NF::PadDecimals | NF::RoundDecimals;
 
-struct KeyRow {
-    const char* name;
-    const char* start;
-    const char* keys;  // '\b' backspace, '\x7f' delete
-    const char* expected;
-};
+// keys: '\b' backspace, '\x7f' delete.
+struct KeyRow { const char* name; bool overtype; const char *start, *keys, *expected; };
 
 // Every row is accepted or swallowed silently: no beep, no message.
-void ExpectQuietTyping(const NF& f, const std::vector<KeyRow>& rows, bool overtype = false)
+void ExpectQuietTyping(const NF& f, const std::vector<KeyRow>& rows)
 {
     for (const KeyRow& row : rows) {
         SCOPED_TRACE(row.name);
         StatusRecorder status;
-        EXPECT_EQ(TypeKeys(f, row.start, row.keys, overtype), row.expected);
+        EXPECT_EQ(TypeKeys(f, row.start, row.keys, row.overtype), row.expected);
         EXPECT_EQ(status.beeps + status.messages.size(), 0u);
     }
 }
 
-TEST(NumEditTyping, SeparatorsFollowTheCaret)
+TEST(NumEditTyping, SeparatorsSignsAndPointRebuiltAroundTheCaret)
 {
     ExpectQuietTyping(NF(7, 2, kAmount), {
-        {"digits grouped, point, fraction", "|", "1234.5", "1,234.5|"},
-        {"insert regroups", "1,23|4", "5", "12,35|4"},
-        {"selection replaced", "1,[23]4", "9", "19|4"},
-        {"digit goes after the minus", "|-12", "3", "-3|12"},
-        {"digit goes inside the parentheses", "(12)|", "3", "(123|)"},
-        {"closing parenthesis swallowed", "12|", ")", "12|"},
-    });
-}
-
-TEST(NumEditTyping, BackspaceAndDeleteAroundCommas)
-{
-    ExpectQuietTyping(NF(7, 2, kAmount), {
-        {"backspace takes the comma and the digit before it", "1,|234.50", "\b", "|234.50"},
-        {"backspace at the start", "|1,234", "\b", "|1,234"},
-        {"delete on a comma takes the digit after it", "1|,234", "\x7f", "1|34"},
-        {"delete at the end", "1,234|", "\x7f", "1,234|"},
-        {"lone parenthesis after backspace", "(|12)", "\b", "|12"},
-        {"lone parenthesis after delete", "(12|)", "\x7f", "12|"},
-    });
-}
-
-TEST(NumEditTyping, OvertypeReplaces)
-{
-    ExpectQuietTyping(NF(7, 2, kAmount), {
-        {"digit replaced", "|1,234", "9", "9,|234"},
-        {"comma replaced with the digit after it", "1|,234", "5", "1,5|34"},
-        {"at the end it inserts", "12|", "3", "123|"},
-        {"backspace never widens", "12|3", "\b", "1|3"},
-    }, true);
-}
-
-TEST(NumEditTyping, SignsAreRebuiltNotToggled)
-{
-    ExpectQuietTyping(NF(7, 2, kAmount), {
-        {"minus twice stays negative", "234.50|", "--", "-234.50|"},
-        {"opening parenthesis means minus", "1,234|", "(", "-1,234|"},
-        {"plus drops the sign", "-1,234|", "+", "1,234|"},
+        {"digits grouped, point, fraction", false, "|", "1234.5", "1,234.5|"},
+        {"insert regroups", false, "1,23|4", "5", "12,35|4"},
+        {"selection replaced", false, "1,[23]4", "9", "19|4"},
+        {"digit goes after the minus", false, "|-12", "3", "-3|12"},
+        {"digit goes inside the parentheses", false, "(12)|", "3", "(123|)"},
+        {"closing parenthesis swallowed", false, "12|", ")", "12|"},
+        {"backspace takes the comma and the digit before it", false, "1,|234.50", "\b", "|234.50"},
+        {"backspace at the start", false, "|1,234", "\b", "|1,234"},
+        {"delete on a comma takes the digit after it", false, "1|,234", "\x7f", "1|34"},
+        {"delete at the end", false, "1,234|", "\x7f", "1,234|"},
+        {"lone parenthesis after backspace", false, "(|12)", "\b", "|12"},
+        {"lone parenthesis after delete", false, "(12|)", "\x7f", "12|"},
+        {"overtype replaces a digit", true, "|1,234", "9", "9,|234"},
+        {"overtype on a comma replaces the digit after it", true, "1|,234", "5", "1,5|34"},
+        {"overtype at the end inserts", true, "12|", "3", "123|"},
+        {"backspace never widens in overtype", true, "12|3", "\b", "1|3"},
+        {"minus twice stays negative", false, "234.50|", "--", "-234.50|"},
+        {"opening parenthesis means minus", false, "1,234|", "(", "-1,234|"},
+        {"plus drops the sign", false, "-1,234|", "+", "1,234|"},
+        {"point moved left", false, "1,23|4.5", ".", "123.|45"},
+        {"point moved right", false, "12.3|4", ".", "123.|4"},
+        {"separators leave the fraction", false, "1|,234,567", ".", "1.|234567"},
     });
     ExpectQuietTyping(NF(7, 2, kAmount | NF::ParenNegative), {
-        {"minus twice stays in parentheses", "234.50|", "--", "(234.50|)"},
-        {"plus drops the parentheses", "(1,234|)", "+", "1,234|"},
-    });
-}
-
-TEST(NumEditTyping, DecimalPointMovesToTheCaret)
-{
-    ExpectQuietTyping(NF(7, 2, kAmount), {
-        {"point moved left", "1,23|4.5", ".", "123.|45"},
-        {"point moved right", "12.3|4", ".", "123.|4"},
-        {"separators leave the fraction", "1|,234,567", ".", "1.|234567"},
+        {"minus twice stays in parentheses", false, "234.50|", "--", "(234.50|)"},
+        {"plus drops the parentheses", false, "(1,234|)", "+", "1,234|"},
     });
 }
 
@@ -96,7 +68,8 @@ TEST(NumEditTyping, MinusSwallowedUnderANonNegativeLowerLimit)
     for (const auto& row : rows) {
         NF f(7, 2, 0);
         f.SetLowerLimit(row.limit, row.type);
-        ExpectQuietTyping(f, {{"minus", "12|", "-", row.expected}, {"parenthesis", "12|", "(", row.expected}});
+        ExpectQuietTyping(f, {{"minus", false, "12|", "-", row.expected},
+                              {"parenthesis", false, "12|", "(", row.expected}});
     }
 }
 
@@ -104,11 +77,7 @@ TEST(NumEditTyping, RefusedKeysBeep)
 {
     // message nullptr: accepted; "": a beep only.
     const struct {
-        const char* name;
-        unsigned integers, decimals;
-        const char* start;
-        unsigned key;
-        const char *expected, *message;
+        const char* name; unsigned integers, decimals; const char* start; unsigned key; const char *expected, *message;
     } rows[] = {
         {"full amount", 3, 2, "123.45|", '6', "123.45|",
          "Too many digits. A maximum of 3 digits before the decimal and 2 digits after the decimal is allowed."},

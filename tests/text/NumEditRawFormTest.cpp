@@ -56,12 +56,7 @@ std::string RoundUpAsDouble(const std::string& cut, unsigned integers, unsigned 
 
 TEST(NumEditRawForm, RoundingAtTheBoundaries)
 {
-    const struct {
-        const char* name;
-        unsigned integers, decimals;
-        unsigned long format;
-        const char *text, *raw;
-    } rows[] = {
+    const struct { const char* name; unsigned integers, decimals; unsigned long format; const char *text, *raw; } rows[] = {
         {"carry through the point", 7, 2, 0, "9.995", "10"},
         {"carry past the first digit", 7, 2, 0, ".995", "1"},
         {"carry needs an integer digit there is no room for", 2, 2, 0, "99.995", "99.99"},

@@ -16,12 +16,7 @@ constexpr unsigned long kAmount = NF::Separators | NF::ShowZero | NF::PadDecimal
 TEST(NumEditConversion, RawData)
 {
     const struct {
-        const char* name;
-        unsigned integers;
-        unsigned long format;
-        const char* text;
-        bool ok;
-        const char* raw;
+        const char* name; unsigned integers; unsigned long format; const char* text; bool ok; const char* raw;
     } rows[] = {
         {"display form to raw", 7, NF::Separators, "(1,234.50)", true, "-1234.5"},
         {"zeros around", 7, 0, "007.50", true, "7.5"},
@@ -66,10 +61,7 @@ TEST(NumEditConversion, RawToDisplay)
 TEST(NumEditValidation, ErrorSelectionsMarkTheDisplayedDigits)
 {
     const struct {
-        const char* name;
-        unsigned integers, decimals;
-        unsigned long format;
-        const char *text, *display, *message;
+        const char* name; unsigned integers, decimals; unsigned long format; const char *text, *display, *message;
         int selStart, selEnd;
     } rows[] = {
         {"integers selected across a comma", 5, 2, NF::Separators, "123,456.5", "123,456.5",
@@ -95,13 +87,9 @@ TEST(NumEditValidation, ErrorSelectionsMarkTheDisplayedDigits)
 
 TEST(NumEditValidation, Limits)
 {
-    const struct {
-        const char* name;
-        NF::UpperLimitType upperType;
-        double upper;
-        NF::LowerLimitType lowerType;
-        double lower;
-        const char *text, *display, *message;  // message "" when valid
+    const struct {  // message "" when valid
+        const char* name; NF::UpperLimitType upperType; double upper; NF::LowerLimitType lowerType; double lower;
+        const char *text, *display, *message;
     } rows[] = {
         {"upper exclusive at the limit", NF::UpperExclusive, 100, NF::NoLowerLimit, 0, "100", "100",
          "Value must be less than 100.00."},
