@@ -8,39 +8,28 @@
 
 FieldState ParseField(const std::string& marked)
 {
-    FieldState field;
     std::string text;
     int start = -1, end = -1;
     for (char ch : marked) {
-        if (ch == '|') {
+        if (ch == '|')
             start = end = static_cast<int>(text.size());
-        } else if (ch == '[') {
+        else if (ch == '[')
             start = static_cast<int>(text.size());
-        } else if (ch == ']') {
+        else if (ch == ']')
             end = static_cast<int>(text.size());
-        } else {
+        else
             text += ch;
-        }
     }
     if (start < 0)
         start = end = static_cast<int>(text.size());
-    field.text = text.c_str();
-    field.sel = kvPackSel(start, end);
-    return field;
+    return {text.c_str(), kvPackSel(start, end)};
 }
 
 std::string ShowField(const CString& text, unsigned long sel)
 {
-    const int start = kvSelStart(sel);
-    const int end = kvSelEnd(sel);
+    const auto start = static_cast<size_t>(kvSelStart(sel)), end = static_cast<size_t>(kvSelEnd(sel));
     std::string shown(text.GetString());
-    if (start == end) {
-        shown.insert(static_cast<size_t>(start), "|");
-    } else {
-        shown.insert(static_cast<size_t>(end), "]");
-        shown.insert(static_cast<size_t>(start), "[");
-    }
-    return shown;
+    return start == end ? shown.insert(start, "|") : shown.insert(end, "]").insert(start, "[");
 }
 
 std::string TypeKeys(const kvEditFormatter& f, const std::string& start, const std::string& keys,
