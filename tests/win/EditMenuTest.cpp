@@ -97,15 +97,7 @@ protected:
     CEdit m_edit;
 };
 
-struct EnablingRow {
-    const char* name;
-    const char* text;
-    const char* typed;
-    int selStart, selEnd;
-    DWORD style;
-    Clip clip;
-    const char* entries;
-};
+struct EnablingRow { const char *name, *text, *typed; int selStart, selEnd; DWORD style; Clip clip; const char* entries; };
 
 const EnablingRow kEnabling[] = {
     {"empty edit, empty clipboard", "", "", 0, 0, 0, Clip::Empty,
@@ -132,12 +124,7 @@ TEST_F(EditMenu, ItemsFollowTheEditState)
     }
 }
 
-struct HelpRow {
-    const char* name;
-    UINT ctrlID;
-    DWORD ownHelpID, parentHelpID, parentHitTest;
-    DWORD helpID;
-};
+struct HelpRow { const char* name; UINT ctrlID; DWORD ownHelpID, parentHelpID, parentHitTest, helpID; };
 
 // The row after the recursive one also checks that the guard was cleared.
 const HelpRow kHelp[] = {
@@ -194,12 +181,8 @@ TEST_F(EditMenu, EditOfAComboBoxTakesTheComboBoxHelpID)
     edit.UnsubclassWindow();
 }
 
-struct CommandRow {
-    const char* name;
-    const char* key;  // the mnemonic
-    unsigned int chosen;
-    ExpectedMessage received;  // by the edit
-};
+// key: the mnemonic; received: by the edit.
+struct CommandRow { const char *name, *key; unsigned int chosen; ExpectedMessage received; };
 
 const CommandRow kCommands[] = {
     {"undo", "u", 1, {"edit", WM_UNDO, kAnyParams, 0, 0}},

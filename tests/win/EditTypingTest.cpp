@@ -24,19 +24,10 @@ kvEditFormatter* RefuseB() { return new RefuseBFormatter; }
 
 const char kTooManyDigits[] = "Too many digits. A maximum of 3 digits is allowed.";
 
+// changes: EN_CHANGE notifications; message: the status message shown, "" for none.
 struct TypingRow {
-    const char* name;
-    Maker formatter;
-    DWORD style;
-    bool overtype;
-    const char* text;
-    int start;
-    const char* keys;
-    const char* typed;
-    int caret;
-    int changes;          // EN_CHANGE notifications
-    const char* message;  // the status message shown, "" for none
-    int beeps;
+    const char* name; Maker formatter; DWORD style; bool overtype; const char* text; int start; const char *keys, *typed;
+    int caret, changes; const char* message; int beeps;
 };
 
 const TypingRow kTyping[] = {
@@ -106,13 +97,7 @@ TEST_F(EditField, InsertInOneFieldSwitchesOvertypeForAll)
     EXPECT_EQ(TextOf(second), "xybc");
 }
 
-struct SetTextRow {
-    const char* name;
-    Maker formatter;
-    const char* text;
-    BOOL accepted;
-    const char* shown;
-};
+struct SetTextRow { const char* name; Maker formatter; const char* text; BOOL accepted; const char* shown; };
 
 const SetTextRow kSetText[] = {
     {"shown in the formatter's display form", Amount, "1234.5", TRUE, "1,234.50"},
@@ -183,14 +168,9 @@ LRESULT CALLBACK RecordRectRequests(HWND hWnd, UINT message, WPARAM wParam, LPAR
 
 enum class Anchor { None, FarLeft, Widened };
 
+// fix: FixRightJustifiedText, else the focus arriving; rightMargin 0: the control's own.
 struct AnchorRow {
-    const char* name;
-    DWORD style;
-    const char* text;
-    int caret;
-    bool fix;  // FixRightJustifiedText, else the focus arriving
-    UINT rightMargin;  // 0: the control's own
-    Anchor anchor;
+    const char* name; DWORD style; const char* text; int caret; bool fix; UINT rightMargin; Anchor anchor;
 };
 
 const AnchorRow kAnchors[] = {

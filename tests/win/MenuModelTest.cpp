@@ -74,13 +74,8 @@ protected:
     CWnd m_owner;
 };
 
-struct FlagRow {
-    const char* name;
-    int flag;
-    const char* item;       // read back for a labelled item
-    const char* separator;  // ... for a separator
-    const char* submenu;    // ... for a submenu holding one item
-};
+// Read back for a labelled item, a separator and a submenu holding one item.
+struct FlagRow { const char* name; int flag; const char *item, *separator, *submenu; };
 
 const FlagRow kFlags[] = {
     {"enabled", 0, "1 A", "-", "S{1 B}"},
@@ -115,12 +110,8 @@ TEST_F(MenuModel, AdvisorFlagsBecomeNativeStates)
     }
 }
 
-struct NumberingRow {
-    const char* name;
-    kvContextMenu (*build)();
-    const char* entries;
-    unsigned short nextID;  // the counter after the popup
-};
+// nextID: the counter after the popup.
+struct NumberingRow { const char* name; kvContextMenu (*build)(); const char* entries; unsigned short nextID; };
 
 const NumberingRow kNumbering[] = {
     {"hidden item takes no id", [] { return Menu({Item("A"), Item("B", Act<2>, Advise<16>), Item("C")}); },
@@ -154,11 +145,7 @@ TEST_F(MenuModel, CommandIdsNumberTheShownItems)
 }
 
 struct ChoiceRow {
-    const char* name;
-    kvContextMenu (*build)();
-    const char* keys;
-    unsigned int chosen;
-    std::vector<int> ran;
+    const char* name; kvContextMenu (*build)(); const char* keys; unsigned int chosen; std::vector<int> ran;
 };
 
 const ChoiceRow kChoices[] = {
@@ -194,11 +181,8 @@ TEST_F(MenuModel, KeyboardChoiceRunsTheChosenActionWithWindowAndPoint)
     }
 }
 
-struct ListRow {
-    const char* name;
-    bool (*edit)(kvContextMenu&);  // answers what the operation returned (true for none)
-    const char* entries;
-};
+// edit answers what the operation returned (true for none).
+struct ListRow { const char* name; bool (*edit)(kvContextMenu&); const char* entries; };
 
 const char kUntouched[] = "1 Cu&t|2 &Copy|3 Cu&t|&More{4 B}";
 

@@ -12,8 +12,7 @@
 
 namespace {
 
-constexpr UINT kFirstEdit = 100;
-constexpr UINT kSecondEdit = 101;
+enum : UINT { kFirstEdit = 100, kSecondEdit };
 
 bool IsKeyMessage(UINT message) { return message == WM_KEYDOWN || message == WM_KEYUP || message == WM_CHAR; }
 
@@ -60,10 +59,8 @@ const ExpectedMessage kLetterA[] = {
 // The dialog manager moves the focus on the key press: the release goes to the
 // second field.
 const ExpectedMessage kTab[] = {
-    {"first", WM_KEYDOWN, kWParam, VK_TAB, 0},
-    {"dialog", WM_KEYDOWN, kWParam, VK_TAB, 0},
-    {"second", WM_KEYUP, kWParam, VK_TAB, 0},
-    {"dialog", WM_KEYUP, kWParam, VK_TAB, 0},
+    {"first", WM_KEYDOWN, kWParam, VK_TAB, 0}, {"dialog", WM_KEYDOWN, kWParam, VK_TAB, 0},
+    {"second", WM_KEYUP, kWParam, VK_TAB, 0},  {"dialog", WM_KEYUP, kWParam, VK_TAB, 0},
 };
 
 // A character the field's object consumes never reaches the dialog.
@@ -73,13 +70,9 @@ const ExpectedMessage kSwallowedX[] = {
     {"first", WM_KEYUP, kWParam, 'X', 0},   {"dialog", WM_KEYUP, kWParam, 'X', 0},
 };
 
+// firstText: the first field's text afterwards; focusId: the control with the focus afterwards.
 struct RoutingRow {
-    const char* name;
-    const char* keys;
-    const ExpectedMessage* expected;
-    std::size_t count;
-    const char* firstText;  // the first field's text afterwards
-    UINT focusId;           // the control with the focus afterwards
+    const char *name, *keys; const ExpectedMessage* expected; std::size_t count; const char* firstText; UINT focusId;
 };
 
 const RoutingRow kRoutes[] = {

@@ -13,27 +13,18 @@ namespace {
 
 using NF = kvNumEditFormatter;
 
-constexpr UINT kAmount = 100;
-constexpr UINT kNext = 101;
-constexpr UINT kApply = 102;
-constexpr UINT kSuperTarget = 103;
-constexpr UINT kOutside = 999;  // a window of the application outside the dialog
-constexpr UINT kNowhere = 0;    // the focus left the application
+// kOutside: a window of the application outside the dialog; kNowhere: the focus left the application.
+enum : UINT { kNowhere = 0, kAmount = 100, kNext, kApply, kSuperTarget, kOutside = 999 };
 
 const char kTooManyIntegers[] = "Too many digits before the decimal point. A maximum of 3 digits is allowed.";
 
 enum class Move { Tab, Click, SetFocus };
 
+// focused: who has the focus afterwards; message "" when nothing was verified or all was
+// valid; forwarded: checks passed to the dialog's parent.
 struct LeaveRow {
-    const char* name;
-    const char* amount;
-    Move move;
-    UINT target;
-    bool forward;
-    UINT focused;         // who has the focus afterwards
-    const char* message;  // "" when nothing was verified or all was valid
-    int selStart, selEnd;
-    int forwarded;        // checks passed to the dialog's parent
+    const char *name, *amount; Move move; UINT target; bool forward; UINT focused; const char* message;
+    int selStart, selEnd, forwarded;
 };
 
 const LeaveRow kLeaving[] = {
@@ -111,15 +102,8 @@ TEST_F(Validation, WhereTheFocusGoesDecidesTheCheck)
     }
 }
 
-struct VerifyRow {
-    const char* name;
-    const char* amount;
-    LRESULT result;
-    DWORD selection;  // the word Verify fills
-    const char* shown;
-    const char* message;
-    int clears;
-};
+// selection: the word Verify fills.
+struct VerifyRow { const char *name, *amount; LRESULT result; DWORD selection; const char *shown, *message; int clears; };
 
 const VerifyRow kVerify[] = {
     {"valid: shown in display form, message cleared", "0123.5", kvEditValidator::Valid, 0, "123.5", "", 1},
