@@ -110,69 +110,59 @@ TEST_F(MenuModel, AdvisorFlagsBecomeNativeStates)
     }
 }
 
-// nextID: the counter after the popup.
-struct NumberingRow { const char* name; kvContextMenu (*build)(); const char* entries; unsigned short nextID; };
+// nextID: the counter after the popup; chosen and ran: the command the keys chose and the actions run.
+struct PopupRow {
+    const char* name; kvContextMenu (*build)(); const char *keys, *entries; unsigned short nextID; unsigned int chosen;
+    std::vector<int> ran;
+};
 
-const NumberingRow kNumbering[] = {
-    {"hidden item takes no id", [] { return Menu({Item("A"), Item("B", Act<2>, Advise<16>), Item("C")}); },
-     "1 A|2 C", 3},
+const PopupRow kPopups[] = {
+    {"hidden item takes no id: the second shown item is the third appended",
+     [] { return Menu({Item("A", Act<1>), Item("B", Act<2>, Advise<16>), Item("C", Act<3>)}); }, "down down enter",
+     "1 A|2 C", 3, 2, {3}},
     {"submenu numbered in sequence", [] { return Menu({Item("A"), Submenu("S", {Item("B"), Item("C")}), Item("D")}); },
-     "1 A|S{2 B|3 C}|4 D", 5},
-    {"empty submenu leaves no entry", [] { return Menu({Item("A"), Submenu("S", {}), Item("B")}); }, "1 A|2 B", 3},
+     "esc", "1 A|S{2 B|3 C}|4 D", 5, 0, {}},
+    {"item in a submenu",
+     [] { return Menu({Item("A", Act<1>), Submenu("S", {Item("B", Act<2>), Item("C", Act<3>)})}); },
+     "down down right down enter", "1 A|S{2 B|3 C}", 4, 3, {3}},
+    {"empty submenu leaves no entry", [] { return Menu({Item("A"), Submenu("S", {}), Item("B")}); }, "esc", "1 A|2 B", 3,
+     0, {}},
     {"submenu of hidden items shows empty",
-     [] { return Menu({Item("A"), Submenu("S", {Item("B", Act<2>, Advise<16>)})}); }, "1 A|S{}", 2},
+     [] { return Menu({Item("A"), Submenu("S", {Item("B", Act<2>, Advise<16>)})}); }, "esc", "1 A|S{}", 2, 0, {}},
     {"hidden submenu takes no ids", [] { return Menu({Item("A"), Submenu("S", {Item("B")}, Advise<16>), Item("C")}); },
-     "1 A|2 C", 3},
+     "esc", "1 A|2 C", 3, 0, {}},
     {"resource item adds no entry",
-     [] { return Menu({Item("A"), ItemPtr(new kvResourceCMenuItem(7, Act<7>, Advisor())), Item("B")}); }, "1 A|2 B", 3},
-    {"hidden separator left out", [] { return Menu({Item("A"), Separator(), Separator(Advise<16>), Item("B")}); },
-     "1 A|-|2 B", 3},
-    {"copy of the shared separator", [] { return Menu({ItemPtr(new kvCMenuSeparator(kvContextMenu::SEPARATOR))}); },
-     "-", 1},
-    {"own advisor ignored at top level", [] { return Menu({Item("A")}, Advise<16>); }, "1 A", 2},
-    {"every item hidden", [] { return Menu({Item("A", Act<1>, Advise<16>)}); }, "", 1},
-};
-
-TEST_F(MenuModel, CommandIdsNumberTheShownItems)
-{
-    for (const NumberingRow& row : kNumbering) {
-        SCOPED_TRACE(row.name);
-        kvContextMenu menu = row.build();
-        kvContextMenuItem::m_ActionID = 40;
-        EXPECT_EQ(Show(menu).entries, row.entries);
-        EXPECT_EQ(kvContextMenuItem::m_ActionID, row.nextID);
-    }
-}
-
-struct ChoiceRow {
-    const char* name; kvContextMenu (*build)(); const char* keys; unsigned int chosen; std::vector<int> ran;
-};
-
-const ChoiceRow kChoices[] = {
-    {"second shown item is the third appended",
-     [] { return Menu({Item("A", Act<1>), Item("B", Act<2>, Advise<16>), Item("C", Act<3>)}); }, "down down enter", 2,
-     {3}},
+     [] { return Menu({Item("A"), ItemPtr(new kvResourceCMenuItem(7, Act<7>, Advisor())), Item("B")}); }, "esc",
+     "1 A|2 B", 3, 0, {}},
     {"resource item replaces the action under its id",
      [] {
          return Menu({Item("A", Act<1>), Item("B", Act<2>), ItemPtr(new kvResourceCMenuItem(2, Act<9>, Advisor()))});
      },
-     "down down enter", 2, {9}},
-    {"item in a submenu",
-     [] { return Menu({Item("A", Act<1>), Submenu("S", {Item("B", Act<2>), Item("C", Act<3>)})}); },
-     "down down right down enter", 3, {3}},
-    {"mnemonic", [] { return Menu({Item("&Alpha", Act<1>), Item("&Beta", Act<2>)}); }, "b", 2, {2}},
-    {"dismissed", [] { return Menu({Item("A", Act<1>)}); }, "esc", 0, {}},
-    {"nothing to choose", [] { return Menu({Item("A", Act<1>, Advise<16>)}); }, "enter", 0, {}},
+     "down down enter", "1 A|2 B", 3, 2, {9}},
+    {"hidden separator left out", [] { return Menu({Item("A"), Separator(), Separator(Advise<16>), Item("B")}); },
+     "esc", "1 A|-|2 B", 3, 0, {}},
+    {"copy of the shared separator", [] { return Menu({ItemPtr(new kvCMenuSeparator(kvContextMenu::SEPARATOR))}); },
+     "esc", "-", 1, 0, {}},
+    {"own advisor ignored at top level, dismissed", [] { return Menu({Item("A", Act<1>)}, Advise<16>); }, "esc", "1 A",
+     2, 0, {}},
+    {"mnemonic", [] { return Menu({Item("&Alpha", Act<1>), Item("&Beta", Act<2>)}); }, "b", "1 &Alpha|2 &Beta", 3, 2,
+     {2}},
+    {"every item hidden: nothing to choose", [] { return Menu({Item("A", Act<1>, Advise<16>)}); }, "enter", "", 1, 0,
+     {}},
 };
 
-TEST_F(MenuModel, KeyboardChoiceRunsTheChosenActionWithWindowAndPoint)
+TEST_F(MenuModel, ShownItemsAreNumberedAndTheChosenOneRunsWithWindowAndPoint)
 {
-    for (const ChoiceRow& row : kChoices) {
+    for (const PopupRow& row : kPopups) {
         SCOPED_TRACE(row.name);
         g_ran.clear();
         g_actionWnd = nullptr;
         kvContextMenu menu = row.build();
-        EXPECT_EQ(Show(menu, row.keys).chosen, row.chosen);
+        kvContextMenuItem::m_ActionID = 40;
+        const PopupRun run = Show(menu, row.keys);
+        EXPECT_EQ(run.entries, row.entries);
+        EXPECT_EQ(kvContextMenuItem::m_ActionID, row.nextID);
+        EXPECT_EQ(run.chosen, row.chosen);
         EXPECT_EQ(g_ran, row.ran);
         EXPECT_EQ(g_actionWnd, row.ran.empty() ? nullptr : &m_owner);
         if (!row.ran.empty()) {
