@@ -72,18 +72,9 @@ TEST(StrEditFormatter, Validation)
     for (const ValidRow& row : kValidation) {
         SCOPED_TRACE(row.name);
         const kvStrEditFormatter f(row.maxLen, row.minLen, row.format);
-        CString text(row.text);
-        kvEditFormatterError err;
-        EXPECT_EQ(f.IsValid(text, &err), row.valid);
-        EXPECT_STREQ(text, row.normalised);
-        EXPECT_STREQ(err.message, row.message);
-        EXPECT_EQ(err.selection, kvPackSel(row.selStart, row.selEnd));
-        EXPECT_EQ(err.code, 0);
-
-        CString again(row.text);
-        EXPECT_EQ(f.IsValid(again, nullptr), row.valid) << "null record gives the same verdict";
-        CString raw(row.text), formatted(row.text);
-        EXPECT_EQ(f.RawData(raw, &err), row.valid);
+        ExpectValidation(f, row.text, row.normalised, row.message, row.selStart, row.selEnd,
+                         row.valid ? row.normalised : nullptr);
+        CString formatted(row.text);
         EXPECT_EQ(f.FormatRawData(formatted), row.valid);
         EXPECT_STREQ(formatted, row.normalised);
     }
