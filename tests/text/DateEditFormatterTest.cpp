@@ -45,10 +45,7 @@ TEST(DateEditFormatter, DefaultFormatsFollowTheApplicationsDateOrder)
 }
 
 // shown: the text after validation; message empty when valid; raw: RawData, null when refused.
-struct ParseRow {
-    const char* name; F format; const char* typed;
-    const char* shown; const char* message; int selStart, selEnd; const char* raw;
-};
+struct ParseRow { const char* name; F format; const char *typed, *shown, *message; int selStart, selEnd; const char* raw; };
 
 const ParseRow kParsing[] = {
     {"one-digit month and day", F(4), "1524", "1/05/2024", "", 0, 0, "01052024"},
@@ -149,9 +146,7 @@ TEST(DateEditFormatter, ShowsADateInEveryFormat)
     EXPECT_STREQ(unchecked, "13/45/2024");
 }
 
-struct TypingRow {
-    const char* name; F format; const char* start; const char* keys; bool overtype; const char* expected; int beeps;
-};
+struct TypingRow { const char* name; F format; const char *start, *keys; bool overtype; const char* expected; int beeps; };
 
 const TypingRow kTyping[] = {
     {"a whole date", F(4), "|", "12/25/2024", false, "12/25/2024|", 0},

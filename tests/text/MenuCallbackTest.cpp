@@ -10,9 +10,7 @@
 
 namespace {
 
-struct Point {
-    int x;
-};
+struct Point { int x; };
 
 class Target {
 public:
@@ -43,13 +41,8 @@ static_assert(std::is_trivially_copyable_v<Advisor> && std::is_trivially_copyabl
 Target g_target;
 Overriding g_overriding;
 
-struct CallRow {
-    const char* name;
-    Advisor callback;
-    bool empty;
-    int result;  // called with 2 and a point at x = 5
-    int pointX;
-};
+// result and pointX: called with 2 and a point at x = 5.
+struct CallRow { const char* name; Advisor callback; bool empty; int result, pointX; };
 
 const CallRow kCalls[] = {
     {"default constructed", Advisor(), true, 0, 5},

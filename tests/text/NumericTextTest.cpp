@@ -33,16 +33,12 @@ TEST(NumericText, FormatNumeric)
     }
 }
 
-TEST(NumericText, DoubleValue)
+TEST(NumericText, DoubleValueAndConvertParenNegative)
 {
-    const struct { const char* input; double expected; } rows[] = {
+    const struct { const char* input; double expected; } values[] = {
         {"(1,234.50)", -1234.5}, {"12abc", 12}, {"abc", 0}, {"  7.25", 7.25}, {"1.5e3", 1500}};
-    for (const auto& row : rows)
+    for (const auto& row : values)
         EXPECT_DOUBLE_EQ(DoubleValue(row.input), row.expected) << row.input;
-}
-
-TEST(NumericText, ConvertParenNegative)
-{
     const struct { const char *input, *expected; } rows[] = {
         {"(1,234.50)", "-1,234.50"}, {"12)", "12)"}, {"(12", "-12"}, {"1(2)3", "-123"}, {"(-5)", "--5"}};
     for (const auto& row : rows) {

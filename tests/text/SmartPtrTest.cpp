@@ -11,9 +11,8 @@ namespace {
 
 struct Item {
     static int live;
-    explicit Item(int v = 0) : value(v) { ++live; }
+    Item() { ++live; }
     virtual ~Item() { --live; }
-    int value;
 };
 int Item::live = 0;
 
@@ -25,11 +24,8 @@ int LabeledItem::destroyed = 0;
 
 using Ptr = kvBase::SmartPtr<Item>;
 
-struct OwnershipRow {
-    const char* name;
-    std::function<int()> scenario;  // answers the number of live items at its decisive point
-    int expectedLive;
-};
+// scenario answers the number of live items at its decisive point.
+struct OwnershipRow { const char* name; std::function<int()> scenario; int expectedLive; };
 
 const OwnershipRow kOwnership[] = {
     {"null pointer owns nothing", [] { Ptr p(nullptr); return Item::live + (p ? 10 : 0); }, 0},

@@ -11,10 +11,7 @@ namespace {
 
 // shown: after IsValid; message empty when valid; raw: RawData with the same kind
 // of record, null when refused.
-struct ValidRow {
-    const char* name; const char* typed; bool withRecord;
-    const char* shown; const char* message; int selEnd; const char* raw;
-};
+struct ValidRow { const char *name, *typed; bool withRecord; const char *shown, *message; int selEnd; const char* raw; };
 
 const char kTooFew[] = "Not enough digits. There must be 9 digits.";
 const char kTooMany[] = "Too many digits. There must be 9 digits.";
@@ -70,9 +67,7 @@ TEST(SocSecEditFormatter, FormatRawData)
     }
 }
 
-struct TypingRow {
-    const char* name; const char* start; const char* keys; bool overtype; const char* expected; int beeps;
-};
+struct TypingRow { const char *name, *start, *keys; bool overtype; const char* expected; int beeps; };
 
 const TypingRow kTyping[] = {
     {"nine digits", "|", "123456789", false, "123456789|", 0},

@@ -12,7 +12,9 @@ namespace {
 using AF = kvStrEditFormatter::AlphaFormat;
 
 // refused: sends the too-many message.
-struct TypingRow { const char* name; unsigned maxLen; AF format; const char *start, *keys; bool overtype; const char* expected; bool refused; };
+struct TypingRow {
+    const char* name; unsigned maxLen; AF format; const char *start, *keys; bool overtype; const char* expected; bool refused;
+};
 
 const TypingRow kTyping[] = {
     {"plain insert", 0, kvStrEditFormatter::AnyCase, "ac|", "b", false, "acb|", false},
@@ -43,7 +45,8 @@ TEST(StrEditFormatter, Typing)
         StatusRecorder status;
         const kvStrEditFormatter f(row.maxLen, 0, row.format);
         EXPECT_EQ(TypeKeys(f, row.start, row.keys, row.overtype), row.expected);
-        const std::string tooMany = "Too many characters. A maximum of " + std::to_string(row.maxLen) + " characters is allowed.";
+        const std::string tooMany =
+            "Too many characters. A maximum of " + std::to_string(row.maxLen) + " characters is allowed.";
         EXPECT_EQ(status.messages, row.refused ? std::vector<std::string>{tooMany} : std::vector<std::string>{});
     }
 }

@@ -15,10 +15,7 @@ constexpr T kClockHMS = kvTimeEditFormatter::ClockHourMinuteSecond;
 constexpr T kElapsedHMS = kvTimeEditFormatter::ElapsedHourMinuteSecond;
 
 // shown: the text after validation; message empty when valid; raw: RawData, null when refused.
-struct ParseRow {
-    const char* name; T format; const char* typed;
-    const char* shown; const char* message; int selStart, selEnd; const char* raw;
-};
+struct ParseRow { const char* name; T format; const char *typed, *shown, *message; int selStart, selEnd; const char* raw; };
 
 const ParseRow kParsing[] = {
     {"three digits", kClockHM, "930", "9:30", "", 0, 0, "0930"},
@@ -76,9 +73,7 @@ TEST(TimeEditFormatter, FormatRawData)
     }
 }
 
-struct TypingRow {
-    const char* name; T format; const char* start; const char* keys; bool overtype; const char* expected; int beeps;
-};
+struct TypingRow { const char* name; T format; const char *start, *keys; bool overtype; const char* expected; int beeps; };
 
 const TypingRow kTyping[] = {
     {"digits", kClockHM, "|", "930", false, "930|", 0},
