@@ -55,7 +55,6 @@ StatusRecorder::~StatusRecorder()
 }
 
 CWnd* StatusRecorder::MainWindow() const { return m_pFrame; }
-bool StatusRecorder::CanObserveMessages() { return true; }
 bool StatusRecorder::CanObserveBeeps() { return false; }
 
 #else
@@ -73,7 +72,6 @@ StatusRecorder::~StatusRecorder()
 }
 
 CWnd* StatusRecorder::MainWindow() const { return nullptr; }
-bool StatusRecorder::CanObserveMessages() { return true; }
 bool StatusRecorder::CanObserveBeeps() { return true; }
 
 #endif
@@ -86,7 +84,7 @@ LRESULT StatusRecorder::Receive(WPARAM wParam, LPARAM lParam)
             messages.push_back(reinterpret_cast<const kvWinAMCtrlValidateInfo*>(lParam)->message.GetString());
         else
             ++clears;
-        return 0;
+        break;
     case kvStatusQuery: {
         queries.push_back(lParam);
         const auto answer = m_answers.find(lParam);
@@ -96,8 +94,7 @@ LRESULT StatusRecorder::Receive(WPARAM wParam, LPARAM lParam)
         return overtype ? 1 : 0;
     case kvStatusSetOvertype:
         overtype = lParam != 0;
-        return 0;
-    default:
-        return 0;
+        break;
     }
+    return 0;
 }

@@ -90,17 +90,15 @@ const FlagRow kFlags[] = {
     {"hidden wins over grayed", 18, "", "", ""},
 };
 
-struct FixedAdvice {
-    Flag flag;
-    Flag Advise(CWnd*, CPoint&) { return flag; }
-};
+Flag g_advice;
+Flag AdviseGlobal(CWnd*, CPoint&) { return g_advice; }
 
 TEST_F(MenuModel, AdvisorFlagsBecomeNativeStates)
 {
     for (const FlagRow& row : kFlags) {
         SCOPED_TRACE(row.name);
-        FixedAdvice advice{static_cast<Flag>(row.flag)};
-        const Advisor advisor(&advice, &FixedAdvice::Advise);
+        g_advice = static_cast<Flag>(row.flag);
+        const Advisor advisor(&AdviseGlobal);
         kvContextMenu item = Menu({Item("A", Action(), advisor)});
         kvContextMenu separator = Menu({Separator(advisor)});
         kvContextMenu submenu = Menu({Submenu("S", {Item("B")}, advisor)});

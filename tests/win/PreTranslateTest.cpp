@@ -7,7 +7,6 @@
 
 #include "afx/CWnd.h"
 
-#include <set>
 #include <string>
 
 namespace {
@@ -19,20 +18,20 @@ bool IsKeyMessage(UINT message) { return message == WM_KEYDOWN || message == WM_
 // Logs the key messages it is offered; swallows the characters it is told to.
 class RoutingEdit : public CWnd {
 public:
-    RoutingEdit(MessageLog& log, const char* who) : m_log(log), m_who(who) {}
-    std::set<WPARAM> swallowedChars;
+    RoutingEdit(MessageLog& log, const char* who, WPARAM swallowed = 0) : m_log(log), m_who(who), m_swallowed(swallowed) {}
 
     BOOL PreTranslateMessage(MSG* pMsg) override
     {
         if (!IsKeyMessage(pMsg->message))
             return FALSE;
         m_log.Add(m_who, pMsg->message, pMsg->wParam);
-        return pMsg->message == WM_CHAR && swallowedChars.count(pMsg->wParam) != 0;
+        return pMsg->message == WM_CHAR && pMsg->wParam == m_swallowed;
     }
 
 private:
     MessageLog& m_log;
     const char* m_who;
+    WPARAM m_swallowed;
 };
 
 class RoutingDialog : public HostDialog {
@@ -90,7 +89,6 @@ protected:
         ASSERT_TRUE(m_dialog.CreateModeless());
         ASSERT_TRUE(m_first.SubclassDlgItem(kFirstEdit, &m_dialog));
         ASSERT_TRUE(m_second.SubclassDlgItem(kSecondEdit, &m_dialog));
-        m_first.swallowedChars = {'x'};
     }
 
     void TearDown() override
@@ -102,7 +100,7 @@ protected:
     MessageLog m_log;
     DialogTemplate m_template{"routing", WS_POPUP | WS_CAPTION | WS_SYSMENU, 150, 60};
     RoutingDialog m_dialog{m_template, m_log};
-    RoutingEdit m_first{m_log, "first"};
+    RoutingEdit m_first{m_log, "first", 'x'};
     RoutingEdit m_second{m_log, "second"};
 };
 

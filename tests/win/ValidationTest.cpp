@@ -55,9 +55,7 @@ protected:
 
     HWND WindowOf(const FieldForm& form, UINT id) const
     {
-        if (id == kOutside)
-            return m_outside;
-        return id == kNowhere ? nullptr : ::GetDlgItem(form.dialog, static_cast<int>(id));
+        return id == kOutside ? m_outside.m_hWnd : id == kNowhere ? nullptr : ::GetDlgItem(form.dialog, static_cast<int>(id));
     }
 
     void MoveFocus(FieldForm& form, const LeaveRow& row)
