@@ -77,7 +77,11 @@ TEST(NumEditTyping, RefusedKeysBeep)
 {
     // message nullptr: accepted; "": a beep only.
     const struct {
-        const char* name; unsigned integers, decimals; const char* start; unsigned key; const char *expected, *message;
+        const char* name;
+        unsigned integers, decimals;
+        const char* start;
+        unsigned key;
+        const char *expected, *message;
     } rows[] = {
         {"full amount", 3, 2, "123.45|", '6', "123.45|",
          "Too many digits. A maximum of 3 digits before the decimal and 2 digits after the decimal is allowed."},

@@ -16,7 +16,12 @@ constexpr unsigned long kAmount = NF::Separators | NF::ShowZero | NF::PadDecimal
 TEST(NumEditConversion, RawData)
 {
     const struct {
-        const char* name; unsigned integers; unsigned long format; const char* text; bool ok; const char* raw;
+        const char* name;
+        unsigned integers;
+        unsigned long format;
+        const char* text;
+        bool ok;
+        const char* raw;
     } rows[] = {
         {"display form to raw", 7, NF::Separators, "(1,234.50)", true, "-1234.5"},
         {"zeros around", 7, 0, "007.50", true, "7.5"},
@@ -61,7 +66,10 @@ TEST(NumEditConversion, RawToDisplay)
 TEST(NumEditValidation, ErrorSelectionsMarkTheDisplayedDigits)
 {
     const struct {
-        const char* name; unsigned integers, decimals; unsigned long format; const char *text, *display, *message;
+        const char* name;
+        unsigned integers, decimals;
+        unsigned long format;
+        const char *text, *display, *message;
         int selStart, selEnd;
     } rows[] = {
         {"integers selected across a comma", 5, 2, NF::Separators, "123,456.5", "123,456.5",

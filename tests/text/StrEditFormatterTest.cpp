@@ -13,7 +13,13 @@ using AF = kvStrEditFormatter::AlphaFormat;
 
 // refused: sends the too-many message.
 struct TypingRow {
-    const char* name; unsigned maxLen; AF format; const char *start, *keys; bool overtype; const char* expected; bool refused;
+    const char* name;
+    unsigned maxLen;
+    AF format;
+    const char *start, *keys;
+    bool overtype;
+    const char* expected;
+    bool refused;
 };
 
 const TypingRow kTyping[] = {
@@ -52,7 +58,12 @@ TEST(StrEditFormatter, Typing)
 }
 
 struct ValidRow {
-    const char* name; unsigned maxLen, minLen; AF format; const char* text; bool valid; const char *normalised, *message;
+    const char* name;
+    unsigned maxLen, minLen;
+    AF format;
+    const char* text;
+    bool valid;
+    const char *normalised, *message;
     int selStart, selEnd;
 };
 

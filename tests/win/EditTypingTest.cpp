@@ -26,8 +26,16 @@ const char kTooManyDigits[] = "Too many digits. A maximum of 3 digits is allowed
 
 // changes: EN_CHANGE notifications; message: the status message shown, "" for none.
 struct TypingRow {
-    const char* name; Maker formatter; DWORD style; bool overtype; const char* text; int start; const char *keys, *typed;
-    int caret, changes; const char* message; int beeps;
+    const char* name;
+    Maker formatter;
+    DWORD style;
+    bool overtype;
+    const char* text;
+    int start;
+    const char *keys, *typed;
+    int caret, changes;
+    const char* message;
+    int beeps;
 };
 
 const TypingRow kTyping[] = {
@@ -170,7 +178,13 @@ enum class Anchor { None, FarLeft, Widened };
 
 // fix: FixRightJustifiedText, else the focus arriving; rightMargin 0: the control's own.
 struct AnchorRow {
-    const char* name; DWORD style; const char* text; int caret; bool fix; UINT rightMargin; Anchor anchor;
+    const char* name;
+    DWORD style;
+    const char* text;
+    int caret;
+    bool fix;
+    UINT rightMargin;
+    Anchor anchor;
 };
 
 const AnchorRow kAnchors[] = {

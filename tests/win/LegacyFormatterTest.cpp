@@ -40,7 +40,12 @@ enum class Action { Type, Verify, SetText };
 
 // shown: the status text the formatter was given, "" for none.
 struct LegacyRow {
-    const char *name, *text; Action action; const char* input; LRESULT result; const char *after, *shown; int selStart, selEnd;
+    const char *name, *text;
+    Action action;
+    const char* input;
+    LRESULT result;
+    const char *after, *shown;
+    int selStart, selEnd;
 };
 
 const LegacyRow kLegacy[] = {

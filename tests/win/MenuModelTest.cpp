@@ -110,7 +110,11 @@ TEST_F(MenuModel, AdvisorFlagsBecomeNativeStates)
 
 // nextID: the counter after the popup; chosen and ran: the command the keys chose and the actions run.
 struct PopupRow {
-    const char* name; kvContextMenu (*build)(); const char *keys, *entries; unsigned short nextID; unsigned int chosen;
+    const char* name;
+    kvContextMenu (*build)();
+    const char *keys, *entries;
+    unsigned short nextID;
+    unsigned int chosen;
     std::vector<int> ran;
 };
 

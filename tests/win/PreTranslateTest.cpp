@@ -71,7 +71,11 @@ const ExpectedMessage kSwallowedX[] = {
 
 // firstText: the first field's text afterwards; focusId: the control with the focus afterwards.
 struct RoutingRow {
-    const char *name, *keys; const ExpectedMessage* expected; std::size_t count; const char* firstText; UINT focusId;
+    const char *name, *keys;
+    const ExpectedMessage* expected;
+    std::size_t count;
+    const char* firstText;
+    UINT focusId;
 };
 
 const RoutingRow kRoutes[] = {

@@ -23,7 +23,12 @@ enum class Move { Tab, Click, SetFocus };
 // focused: who has the focus afterwards; message "" when nothing was verified or all was
 // valid; forwarded: checks passed to the dialog's parent.
 struct LeaveRow {
-    const char *name, *amount; Move move; UINT target; bool forward; UINT focused; const char* message;
+    const char *name, *amount;
+    Move move;
+    UINT target;
+    bool forward;
+    UINT focused;
+    const char* message;
     int selStart, selEnd, forwarded;
 };
 
