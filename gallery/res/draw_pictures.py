@@ -6,8 +6,12 @@ hover button. Magenta is the transparent colour. Run it after changing a
 drawing; the generated files are kept beside it."""
 import os
 import struct
+import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
+# The library's own drawing script writes the same file formats.
+sys.path.insert(0, os.path.join(HERE, "..", "..", "library", "res"))
+from draw_resources import bitmap_info_header, mono_rows, with_file_header  # noqa: E402
 
 COLOURS = {  # (red, green, blue); "." is transparent
     ".": (255, 0, 255),
@@ -125,10 +129,6 @@ def scaled(picture, factor):
     return ["".join(c * factor for c in line) for line in picture for _ in range(factor)]
 
 
-def info_header(width, height, bits, colours, image_bytes=0):
-    return struct.pack("<IiiHHIIiiII", 40, width, height, 1, bits, 0, image_bytes, 0, 0, colours, 0)
-
-
 def palette_bytes():
     entries = PALETTE + [(0, 0, 0)] * (256 - len(PALETTE))
     return b"".join(bytes((b, g, r, 0)) for r, g, b in entries)
@@ -142,27 +142,9 @@ def indexed_rows(picture):
     return b"".join(bytes(keys.index(c) for c in line).ljust(stride, b"\0") for line in reversed(picture))
 
 
-def mask_rows(picture):
-    """1-bit AND mask, bottom-up, padded to 32 bits: set where transparent."""
-    width = len(picture[0])
-    stride = (width + 31) // 32 * 4
-    rows = []
-    for line in reversed(picture):
-        bits = bytearray(stride)
-        for x, c in enumerate(line):
-            if c == ".":
-                bits[x // 8] |= 0x80 >> (x % 8)
-        rows.append(bytes(bits))
-    return b"".join(rows)
-
-
-def with_file_header(dib, colour_bytes):
-    return struct.pack("<2sIHHI", b"BM", 14 + len(dib), 0, 0, 14 + 40 + colour_bytes) + dib
-
-
 def bitmap_8bit(picture):
     size = len(picture)
-    return with_file_header(info_header(size, size, 8, 256) + palette_bytes() + indexed_rows(picture), 1024)
+    return with_file_header(bitmap_info_header(size, size, 8, 256) + palette_bytes() + indexed_rows(picture), 1024)
 
 
 def bitmap_24bit(picture):
@@ -170,14 +152,15 @@ def bitmap_24bit(picture):
     stride = (size * 3 + 3) // 4 * 4
     rows = b"".join(b"".join(bytes(COLOURS[c][::-1]) for c in line).ljust(stride, b"\0")
                     for line in reversed(picture))
-    return with_file_header(info_header(size, size, 24, 0) + rows, 0)
+    return with_file_header(bitmap_info_header(size, size, 24, 0) + rows, 0)
 
 
 def icon(picture):
     size = len(picture)
     # Transparent pixels are black in the colour image, so that the mask shows the background.
     colour = [line.replace(".", "k") for line in picture]
-    image = info_header(size, 2 * size, 8, 256) + palette_bytes() + indexed_rows(colour) + mask_rows(picture)
+    image = bitmap_info_header(size, 2 * size, 8, 256) + palette_bytes() + indexed_rows(colour)
+    image += mono_rows(picture, size, size, lambda c: c == ".")
     entry = struct.pack("<BBBBHHII", size, size, 0, 0, 1, 8, len(image), 6 + 16)
     return struct.pack("<HHH", 0, 1, 1) + entry + image
 
