@@ -48,9 +48,10 @@ const char* ParentClass()
     return atom ? "kvMenuTestParent" : nullptr;
 }
 
-// Exposes the help id the menu found.
+// The standard menu, exposing the help id it found.
 class ProbeMenu : public kvEditContextMenu {
 public:
+    ProbeMenu() { AppendDefaultMenu(); }
     DWORD HelpID() const { return m_dwHelpID; }
 };
 
@@ -118,8 +119,7 @@ TEST_F(EditMenu, ItemsFollowTheEditState)
         SCOPED_TRACE(row.name);
         SetClipboard(row.clip);
         CreateEdit(0, row.style, row.text, row.typed, row.selStart, row.selEnd);
-        kvEditContextMenu menu;
-        menu.AppendDefaultMenu();
+        ProbeMenu menu;
         EXPECT_EQ(Show(menu).entries, row.entries);
     }
 }
@@ -155,7 +155,6 @@ TEST_F(EditMenu, HelpItemShownOnlyWithAHelpIDAndShowsItsTopic)
         EXPECT_EQ(kvCtrlContextMenu::GetHelpID(&m_edit), row.helpID);
 
         ProbeMenu menu;
-        menu.AppendDefaultMenu();
         HelpRecorder recorder;
         CWnd* mainWnd = std::exchange(AfxGetApp()->m_pMainWnd, &recorder);
         const PopupRun run = Show(menu, row.helpID ? "w" : "esc");
@@ -175,7 +174,6 @@ TEST_F(EditMenu, EditOfAComboBoxTakesTheComboBoxHelpID)
     CEdit edit;
     ASSERT_TRUE(edit.SubclassWindow(FindWindowExA(combo, nullptr, "Edit", nullptr)));
     ProbeMenu menu;
-    menu.AppendDefaultMenu();
     RunPopup(menu, &edit, "esc");
     EXPECT_EQ(menu.HelpID(), 0x777u);
     edit.UnsubclassWindow();
@@ -202,8 +200,7 @@ TEST_F(EditMenu, ChosenCommandReachesTheEdit)
         MessageLog log;
         MessageRecorder recorder(log, {WM_CUT, WM_COPY, WM_PASTE, WM_CLEAR, WM_UNDO, EM_SETSEL});
         recorder.Watch(m_edit, "edit");
-        kvEditContextMenu menu;
-        menu.AppendDefaultMenu();
+        ProbeMenu menu;
         EXPECT_EQ(Show(menu, row.key).chosen, row.chosen);
         CompareSequence(log, &row.received, 1, row.name, __FILE__, __LINE__);
     }
