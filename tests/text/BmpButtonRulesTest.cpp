@@ -116,8 +116,10 @@ TEST(ImageGray, ColourTableBecomesTheFourStandardGraysAndAPalette)
         for (int i = 0; i < 256; ++i)
             dib.Set(i, kIn[i % 8]);
         EXPECT_EQ(kvDibColorTable::MakeGray(&dib.header, kMagenta), row.grayed != 0 ? 1 : 0);
-        for (int i = 0; i < 256; ++i)
-            EXPECT_EQ(dib.At(i), (i < row.grayed ? kOut : kIn)[i % 8]) << "entry " << i;
+        for (int i = 0; i < 256; ++i) {
+            const COLORREF* expected = i < row.grayed ? kOut : kIn;
+            EXPECT_EQ(dib.At(i), expected[i % 8]) << "entry " << i;
+        }
         const auto palette = kvDibColorTable::PaletteEntries(dib.header);
         ASSERT_EQ(palette.size(), size_t(row.grayed));
         for (int i = 0; i < row.grayed; ++i)
