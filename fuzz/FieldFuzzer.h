@@ -1,4 +1,4 @@
-// FieldFuzzer: plays a random editing session on one formatter, the way a
+// FieldFuzzer: plays a random run of edits on one formatter, the way a
 // formatted edit field drives it (typed keys of every byte value, backspace,
 // key-downs, selections, overtype, text set from outside, validation and raw
 // conversion), and stops the run at the first broken invariant:

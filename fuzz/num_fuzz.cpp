@@ -1,5 +1,5 @@
 // Numeric fields: random digits, format bits, presets and limits, then a random
-// session; the numeric text helpers run on every text the session produces.
+// run of edits; the numeric text helpers run on every text the edits produce.
 #include "FieldFuzzer.h"
 
 #include "formatting/kvNumEditFormatter.h"
