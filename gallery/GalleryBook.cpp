@@ -44,11 +44,16 @@ BOOL GalleryBook::OnInitDialog()
     CreateNotebook(m_initialStyle);
     m_form.Create(this);
     m_buttons.Create(this);
+    AddPages();
+    return TRUE;
+}
+
+void GalleryBook::AddPages()
+{
     for (size_t i = 0; i < m_pages.size(); ++i) {
         m_pages[i]->SetNotebook(m_pNotebook.get());
         m_pNotebook->AddPage(m_pages[i], kPages[i].title);
     }
-    return TRUE;
 }
 
 // The notebook comes first among its siblings, so that the tab order runs from
@@ -69,10 +74,7 @@ void GalleryBook::SetTabStyle(kvTabNotebook::TabStyle tabStyle)
     const int current = m_pNotebook->GetCurSel();
     m_pNotebook->DestroyWindow();
     CreateNotebook(tabStyle);
-    for (size_t i = 0; i < m_pages.size(); ++i) {
-        m_pages[i]->SetNotebook(m_pNotebook.get());
-        m_pNotebook->AddPage(m_pages[i], kPages[i].title);
-    }
+    AddPages();
     m_pNotebook->SetCurSel(current);
 }
 

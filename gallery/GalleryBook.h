@@ -37,6 +37,8 @@ protected:
 private:
     void CreateNotebook(kvTabNotebook::TabStyle tabStyle);
     void PlaceNotebook();
+    // The pages, in tab order, to the notebook just made.
+    void AddPages();
 
     std::unique_ptr<kvTabNotebook> m_pNotebook;
     CustomerForm m_form;
