@@ -17,6 +17,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <random>
 #include <string>
@@ -133,7 +134,9 @@ private:
         return "focus key " + std::to_string(vk) + (shift ? " with shift" : "");
     }
 
-    // Half the clicks land on a control, the others anywhere on the form.
+    // Half the clicks land on a control, the others anywhere on the form. All
+    // stay a pixel inside: a click on the frame's edge would reach the bare
+    // display, which takes the keyboard from the application without a check.
     std::string Click()
     {
         CRect area;
@@ -145,7 +148,9 @@ private:
             pTarget = CWnd::FromHandle(controls[Pick(controls.size())]);
         }
         pTarget->GetClientRect(&area);
-        const POINT point{static_cast<LONG>(Pick(area.Width() + 1)), static_cast<LONG>(Pick(area.Height() + 1))};
+        area.DeflateRect(1, 1);
+        const POINT point{area.left + static_cast<LONG>(Pick(std::max(area.Width(), 1))),
+                          area.top + static_cast<LONG>(Pick(std::max(area.Height(), 1)))};
         QueueClickAt(pTarget->m_hWnd, point);
         return "click";
     }
