@@ -125,6 +125,7 @@ TEST_F(CalculatorTest, FlashEndsAndTheKeyUnderTheMouseIsHot)
     MoveMouseTo(form, CPoint(400, 10));
     EXPECT_EQ(FaceAt(6), face);
     EXPECT_EQ(::GetCapture(), nullptr);
+    ::CreateDirectoryA("pictures", nullptr);
     EXPECT_TRUE(ClientPixels(form).WriteBmp("pictures/calculator.bmp"));
 }
 

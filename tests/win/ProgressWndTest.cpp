@@ -92,6 +92,7 @@ TEST_F(ProgressWndTest, ShownAfterItsDelayWhileTheApplicationAnswers)
         progress.GetDlgItem(10)->GetWindowRect(button);
         EXPECT_EQ(bar.Width(), 200);
         EXPECT_NEAR(button.CenterPoint().x, bar.CenterPoint().x, 1);
+        ::CreateDirectoryA("pictures", nullptr);
         EXPECT_TRUE(ClientPixels(progress).WriteBmp("pictures/progress.bmp"));
     }
     EXPECT_TRUE(pMain->IsWindowEnabled());
