@@ -9,12 +9,14 @@
 
 #include "afx/CFrameWnd.h"
 #include "afx/CMFCStatusBar.h"
+#include "afx/CWinApp.h"
 #include "afx/CWinThread.h"
 #include "formatting/kvMessages.h"
 #include "progress/kvProgressWnd.h"
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -164,6 +166,13 @@ TEST_F(ProgressWndTest, StopConfirmedByTheUser)
         RunStopRow(row);
 }
 
+// The application's main window while it lives.
+struct MainWindowAs {
+    explicit MainWindowAs(CWnd* pWnd) : saved(std::exchange(AfxGetApp()->m_pMainWnd, pWnd)) {}
+    ~MainWindowAs() { AfxGetApp()->m_pMainWnd = saved; }
+    CWnd* saved;
+};
+
 TEST_F(ProgressWndTest, BarOverTheStatusBarsFirstPane)
 {
     auto* pFrame = new CFrameWnd;
@@ -174,8 +183,11 @@ TEST_F(ProgressWndTest, BarOverTheStatusBarsFirstPane)
     bar.SetIndicators(indicators, 1);
     pFrame->RecalcLayout();
     flushEvents();
-    {
-        Progress progress("Saving", &bar);
+    // The bar given, or found as the message bar of a visible main frame.
+    for (const bool given : {true, false}) {
+        SCOPED_TRACE(given ? "given" : "the main frame's");
+        const MainWindowAs main(given ? AfxGetMainWnd() : pFrame);
+        Progress progress("Saving", given ? &bar : nullptr);
         EXPECT_EQ(progress.GetSafeHwnd(), nullptr);
         EXPECT_TRUE(AfxGetMainWnd()->IsWindowEnabled());
         CWnd* pBar = bar.GetDlgItem(12);
