@@ -6,6 +6,8 @@
 #include "afx/CSize.h"
 #include "afx/CString.h"
 
+#include "calculator/kvCalculatorKeypad.h"
+#include "calculator/kvCalculatorState.h"
 #include "formatting/kvDateEditFormatter.h"
 #include "formatting/kvEditFormatter.h"
 #include "formatting/kvEditFormatterError.h"
@@ -23,6 +25,9 @@
 #include "menus/CBFunctor2.h"
 #include "menus/CBFunctor2wRet.h"
 #include "notebook/kvBottomTabGeometry.h"
+#include "progress/kvProgressBarState.h"
+#include "progress/kvProgressLayout.h"
+#include "progress/kvProgressSchedule.h"
 
 #if defined(_WIN32)
 #include "afx/AfxExtension.h"
@@ -42,6 +47,7 @@
 #include "afx/CGdiObject.h"
 #include "afx/CImageList.h"
 #include "afx/CListBox.h"
+#include "afx/CMFCStatusBar.h"
 #include "afx/CMenu.h"
 #include "afx/CPaintDC.h"
 #include "afx/CPalette.h"
@@ -61,6 +67,7 @@
 #include "buttons/kvBmpButton.h"
 #include "buttons/kvButton.h"
 #include "buttons/kvHoverButton.h"
+#include "calculator/kvCalculatorCtrl.h"
 #include "formatting/kvChildKillFocus.h"
 #include "formatting/kvEdit.h"
 #include "formatting/kvEditValidator.h"
@@ -77,4 +84,6 @@
 #include "menus/kvResourceCMenuItem.h"
 #include "notebook/kvTabNotebook.h"
 #include "notebook/kvTabPageButton.h"
+#include "progress/kvProgressWnd.h"
+#include "progress/kvTextProgressCtrl.h"
 #endif

@@ -44,9 +44,15 @@ BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC)
     logFont.lfCharSet = DEFAULT_CHARSET;
     if (lpszFaceName != nullptr)
         std::strncpy(logFont.lfFaceName, lpszFaceName, LF_FACESIZE - 1);
+    logFont.lfHeight = nPointSize;
+    return CreatePointFontIndirect(&logFont, pDC);
+}
 
+BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC)
+{
+    LOGFONT logFont = *lpLogFont;
     HDC hDC = pDC != nullptr ? pDC->GetSafeHdc() : ::GetDC(nullptr);
-    logFont.lfHeight = LogicalHeightOfPointSize(hDC, nPointSize);
+    logFont.lfHeight = LogicalHeightOfPointSize(hDC, lpLogFont->lfHeight);
     if (pDC == nullptr)
         ::ReleaseDC(nullptr, hDC);
     return CreateFontIndirect(&logFont);

@@ -19,6 +19,8 @@ public:
     // nPointSize is in tenths of a point, converted to logical units of pDC
     // (the screen when pDC is null).
     BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = nullptr);
+    // The same from a LOGFONT whose lfHeight is in tenths of a point.
+    BOOL CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC = nullptr);
 
     int GetLogFont(LOGFONT* pLogFont) const;
 

@@ -15,6 +15,8 @@ struct PageRow {
 const PageRow kPages[] = {
     {"&Form", "form"},
     {"&Buttons", "buttons"},
+    {"&Calculator", "calculator"},
+    {"&Progress", "progress"},
 };
 
 constexpr int kMargin = 6;
@@ -44,6 +46,8 @@ BOOL GalleryBook::OnInitDialog()
     CreateNotebook(m_initialStyle);
     m_form.Create(this);
     m_buttons.Create(this);
+    m_calculator.Create(this);
+    m_progress.Create(this);
     AddPages();
     return TRUE;
 }

@@ -7,7 +7,9 @@
 #include "afx/CDialog.h"
 #include "formatting/kvEditValidator.h"
 #include "gallery/ButtonsPage.h"
+#include "gallery/CalculatorPage.h"
 #include "gallery/CustomerForm.h"
+#include "gallery/ProgressPage.h"
 #include "notebook/kvTabNotebook.h"
 
 #include <array>
@@ -43,7 +45,9 @@ private:
     std::unique_ptr<kvTabNotebook> m_pNotebook;
     CustomerForm m_form;
     ButtonsPage m_buttons;
-    std::array<GalleryPage*, 2> m_pages{&m_form, &m_buttons};
+    CalculatorPage m_calculator;
+    ProgressPage m_progress;
+    std::array<GalleryPage*, 4> m_pages{&m_form, &m_buttons, &m_calculator, &m_progress};
     kvTabNotebook::TabStyle m_initialStyle = kvTabNotebook::StandardTabs;
     kvEditValidator m_validator;
 };

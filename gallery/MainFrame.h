@@ -4,7 +4,7 @@
 #pragma once
 
 #include "afx/CFrameWnd.h"
-#include "afx/CStatusBar.h"
+#include "afx/CMFCStatusBar.h"
 #include "gallery/GalleryBook.h"
 
 class kvWinAMCtrlValidateInfo;
@@ -34,7 +34,7 @@ private:
     void ShowTabStyleInMenu();
     void ShowNextPicturePage();
 
-    CStatusBar m_statusBar;
+    CMFCStatusBar m_statusBar;
     GalleryBook m_book;
     kvTabNotebook::TabStyle m_initialTabStyle;
     bool m_overtype = false;
