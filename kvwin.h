@@ -19,6 +19,8 @@
 #include "formatting/kvTimeEditFormatter.h"
 #include "formatting/kvWinAMCtrlValidateInfo.h"
 
+#include "dropdown/kvDropEditLayout.h"
+#include "dropdown/kvPopupPlacement.h"
 #include "kvbase/SmartPtr.h"
 #include "menus/CBFunctor2.h"
 #include "menus/CBFunctor2wRet.h"
@@ -61,6 +63,9 @@
 #include "buttons/kvBmpButton.h"
 #include "buttons/kvButton.h"
 #include "buttons/kvHoverButton.h"
+#include "dropdown/kvCalendarCombo.h"
+#include "dropdown/kvDropEditBase.h"
+#include "dropdown/kvDropEditPopup.h"
 #include "formatting/kvChildKillFocus.h"
 #include "formatting/kvEdit.h"
 #include "formatting/kvEditValidator.h"

@@ -40,33 +40,16 @@ kvDateEditFormatter& kvCalendarCombo::_Formatter() const
     return *static_cast<kvDateEditFormatter*>(GetFormatter());
 }
 
+// SubclassDlgItem comes here too, through the base's creation.
 BOOL kvCalendarCombo::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID, DWORD dwEffects)
 {
-    if (!_CreatePopup(pParentWnd) || !kvDropEditBase::Create(dwStyle, rect, pParentWnd, nID, dwEffects))
-        return FALSE;
-    _InstallPopup();
-    return TRUE;
-}
-
-BOOL kvCalendarCombo::SubclassDlgItem(UINT nID, CWnd* pParent)
-{
-    if (!kvDropEditBase::SubclassDlgItem(nID, pParent) || !_CreatePopup(pParent))
-        return FALSE;
-    _InstallPopup();
-    return TRUE;
-}
-
-bool kvCalendarCombo::_CreatePopup(CWnd* pParent)
-{
     m_pCalendar = std::make_unique<_kvCalendarComboPopup>(this);
-    return m_pCalendar->Create(pParent);
-}
-
-void kvCalendarCombo::_InstallPopup()
-{
+    if (!m_pCalendar->Create(pParentWnd) || !kvDropEditBase::Create(dwStyle, rect, pParentWnd, nID, dwEffects))
+        return FALSE;
     SetBitmap(&m_ButtonImage, kGlyphBackground);
     SetButtonWidth(kButtonWidth);
     SetPopup(m_pCalendar.get());
+    return TRUE;
 }
 
 void kvCalendarCombo::_ShowDate(const CString& text) { ReplaceText(text); }

@@ -20,7 +20,6 @@ public:
 
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID, DWORD dwEffects) override;
     using kvDropEditBase::Create;
-    BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
 
 protected:
     void OnSetFocus(CWnd* pOldWnd) override;
@@ -35,8 +34,6 @@ private:
     kvDateEditFormatter& _Formatter() const;
     // Text the calendar chose, as the user's change.
     void _ShowDate(const CString& text);
-    bool _CreatePopup(CWnd* pParent);
-    void _InstallPopup();
 
     std::unique_ptr<_kvCalendarComboPopup> m_pCalendar;
     CBitmap m_ButtonImage;

@@ -117,7 +117,7 @@ void kvDropEditBase::SetButtonWidth(int width)
     LocateButton();
 }
 
-int kvDropEditBase::_FontHeight()
+int kvDropEditBase::FontHeight()
 {
     CClientDC dc(this);
     CFont* pOldFont = dc.SelectObject(GetFont());
@@ -139,7 +139,7 @@ void kvDropEditBase::LocateButton()
                       : bordered ? kvDropEditLayout::FlatBordered
                                  : kvDropEditLayout::FlatBorderless;
     const kvDropEditLayout layout =
-        kvDropEditLayout::For(look, client.Width(), client.Height(), buttonWidth, _FontHeight());
+        kvDropEditLayout::For(look, client.Width(), client.Height(), buttonWidth, FontHeight());
     SetMargins(layout.leftMargin, layout.rightMargin);
     m_pButton->MoveWindow(&layout.button, FALSE);
     SetRect(&layout.format);
@@ -205,7 +205,7 @@ void kvDropEditBase::ShowPopup(bool show)
     }
 }
 
-void kvDropEditBase::_TogglePopup()
+void kvDropEditBase::TogglePopup()
 {
     const bool open = GetPopupState();
     if (!open)
@@ -235,7 +235,7 @@ void kvDropEditBase::OnKeyDown(UINT nChar, UINT, UINT)
 {
     Default();
     if (nChar == VK_F4)
-        _TogglePopup();
+        TogglePopup();
     else if (nChar == VK_INSERT)
         kvToggleOvertype();
 }
@@ -243,7 +243,7 @@ void kvDropEditBase::OnKeyDown(UINT nChar, UINT, UINT)
 void kvDropEditBase::OnSysKeyDown(UINT nChar, UINT, UINT)
 {
     if (nChar == VK_UP || nChar == VK_DOWN)
-        _TogglePopup();
+        TogglePopup();
     else
         Default();
 }
@@ -254,7 +254,7 @@ void kvDropEditBase::OnSetFocus(CWnd*)
 {
     Default();
     // A thin caret, placed by the selection that follows.
-    ::CreateCaret(m_hWnd, nullptr, 1, _FontHeight());
+    ::CreateCaret(m_hWnd, nullptr, 1, FontHeight());
     ::ShowCaret(m_hWnd);
     if (IsReadOnly())
         SetSel(0, 0);

@@ -38,6 +38,7 @@ public:
 
     // Ignored once the window exists; the previous effects either way.
     DWORD SetSpecialEffects(DWORD dwEffects);
+    DWORD GetSpecialEffects() const { return m_dwEffects; }
     // The button's image instead of the arrow (the caller keeps it); null: the arrow.
     void SetBitmap(CBitmap* pBitmap, DWORD transparent);
     // The previous popup, which goes back to the caller.
@@ -67,15 +68,17 @@ protected:
     afx_msg void OnUpdate();
 
     bool IsReadOnly() const;
+    // The style as created, after the effects (WS_BORDER with a flat border).
+    DWORD GetCreatedStyle() const { return m_dwStyle; }
+    // The F4 and Alt+Up/Down toggle: a popup about to open is announced.
+    void TogglePopup();
+    int FontHeight();
 
     DECLARE_MESSAGE_MAP()
 
 private:
     bool _IsFlat() const;
     void _CreateDropButton();
-    // The F4 and Alt+Up/Down toggle: a popup about to open is announced.
-    void _TogglePopup();
-    int _FontHeight();
 
     DWORD m_dwEffects = 0;
     DWORD m_dwStyle = 0;

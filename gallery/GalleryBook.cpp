@@ -15,6 +15,7 @@ struct PageRow {
 const PageRow kPages[] = {
     {"&Form", "form"},
     {"&Buttons", "buttons"},
+    {"&Drop-downs", "dropdowns"},
 };
 
 constexpr int kMargin = 6;
@@ -44,6 +45,7 @@ BOOL GalleryBook::OnInitDialog()
     CreateNotebook(m_initialStyle);
     m_form.Create(this);
     m_buttons.Create(this);
+    m_dropdowns.Create(this);
     AddPages();
     return TRUE;
 }
@@ -110,4 +112,9 @@ void GalleryBook::ShowPageForPicture(int nPage)
 {
     m_pNotebook->SetCurSel(nPage);
     m_pages[nPage]->PrepareForPicture();
+}
+
+CString GalleryBook::ShowPopupForPicture(int nPage, int nPicture)
+{
+    return CString(kPages[nPage].name) + "-" + m_pages[nPage]->PreparePopupPicture(nPicture);
 }

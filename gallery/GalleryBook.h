@@ -8,6 +8,7 @@
 #include "formatting/kvEditValidator.h"
 #include "gallery/ButtonsPage.h"
 #include "gallery/CustomerForm.h"
+#include "gallery/DropDownsPage.h"
 #include "notebook/kvTabNotebook.h"
 
 #include <array>
@@ -25,6 +26,9 @@ public:
     static const char* PageName(int nPage);
     // Shows the page as its picture shows it.
     void ShowPageForPicture(int nPage);
+    int GetPopupPictureCount(int nPage) const { return m_pages[nPage]->PopupPictureCount(); }
+    // Opens the popup of the page's n-th popup picture; the picture's name.
+    CString ShowPopupForPicture(int nPage, int nPicture);
 
 protected:
     BOOL OnInitDialog() override;
@@ -43,7 +47,8 @@ private:
     std::unique_ptr<kvTabNotebook> m_pNotebook;
     CustomerForm m_form;
     ButtonsPage m_buttons;
-    std::array<GalleryPage*, 2> m_pages{&m_form, &m_buttons};
+    DropDownsPage m_dropdowns;
+    std::array<GalleryPage*, 3> m_pages{&m_form, &m_buttons, &m_dropdowns};
     kvTabNotebook::TabStyle m_initialStyle = kvTabNotebook::StandardTabs;
     kvEditValidator m_validator;
 };

@@ -6,6 +6,7 @@
 #define IDD_ABOUTBOX 102
 #define IDD_BUTTONS 103
 #define IDD_GALLERY 104
+#define IDD_DROPDOWNS 105
 
 #define IDB_NEW 110
 #define IDB_OPEN 111
@@ -35,6 +36,15 @@
 #define IDC_HOVER_FLAT 1026
 #define IDC_HOVER_LINK 1027
 #define IDC_HOVER_STANDARD 1028
+
+// The drop-downs page's fields and their labels.
+#define IDC_INVOICE_DATE 1040
+#define IDC_DUE_DATE 1041
+#define IDC_SHIP_DATE 1042
+#define IDC_ORDER_DATE 1043
+#define IDC_FLAT_LABEL 1044
+#define IDC_BORDERLESS_LABEL 1045
+#define IDC_READONLY_LABEL 1046
 
 #define ID_VIEW_BOTTOM_TABS 0x8001
 #define ID_APP_ABOUT 0xE140
