@@ -7,6 +7,7 @@
 #include "monkey/GuiObjectCounter.h"
 
 #include "dropdown/kvCalendarCombo.h"
+#include "dropdown/kvDropEditList.h"
 #include "formatting/kvEdit.h"
 #include "formatting/kvMessages.h"
 
@@ -136,16 +137,18 @@ TEST_F(WindowTest, ReadOnlyDropEditNeverOpensWithTheMouse)
     EXPECT_EQ(SelOf(f.field), std::make_pair(0, 0)) << "caret at the start, nothing selected";
 }
 
-TEST(DropEditGdi, AThousandCalendarCombosLeaveNoObjectsBehind)
+TEST(DropEditGdi, AThousandDropDownsLeaveNoObjectsBehind)
 {
     FieldForm form(nullptr);
     GuiObjectCounter counter;
     const GuiObjectCounts start = counter.Count();
     for (int i = 0; i < 1000; ++i) {
-        kvCalendarCombo field;
-        field.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 130, 30), &form.dialog, kDate,
+        kvCalendarCombo calendar;
+        kvDropEditList list;
+        kvDropEditBase& field = i % 2 == 0 ? static_cast<kvDropEditBase&>(calendar) : list;
+        field.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 130, 90), &form.dialog, kDate,
                      static_cast<DWORD>(i % 3));
-        field.EnableWindow(i % 2);
+        field.EnableWindow(i % 4 < 2);
         field.UpdateWindow();
     }
     flushEvents();
