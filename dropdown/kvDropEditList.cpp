@@ -94,7 +94,9 @@ BOOL kvDropEditList::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, U
     kvSetParentFont(m_pList.get(), pParentWnd);
     CRect field(dropped);
     field.bottom = field.top + m_pList->GetItemHeight(0) + kAutomaticPadding;
-    if (!kvDropEditBase::Create(dwStyle, field, pParentWnd, nID, dwEffects))
+    // A combo's scroll bars are its list's; on the one-line field they would
+    // only cost every text it is given.
+    if (!kvDropEditBase::Create(dwStyle & ~(WS_VSCROLL | WS_HSCROLL), field, pParentWnd, nID, dwEffects))
         return FALSE;
     SetPopup(m_pList.get());
     return TRUE;

@@ -1,6 +1,7 @@
 // Drop-down fields under real input: opening and closing by key, button, click
 // outside and the close-popup message with the notifications of each; the
 // calendar's date in both directions; read-only fields; no objects left behind.
+#include "ClientPixels.h"
 #include "FieldHarness.h"
 #include "MessageRecorder.h"
 #include "WindowTest.h"
@@ -87,8 +88,9 @@ TEST_F(WindowTest, DropEditOpensAndClosesWithItsNotifications)
     }
 }
 
-// The point of a day of the month shown, found through the calendar's hit test.
-POINT DayPoint(HWND hCalendar, WORD day)
+// The first point of the calendar where its hit test answers what is asked:
+// a part (MCHT_...) and, for a date, its day.
+POINT CalendarPoint(HWND hCalendar, UINT part, WORD day = 0)
 {
     RECT client;
     ::GetClientRect(hCalendar, &client);
@@ -97,32 +99,52 @@ POINT DayPoint(HWND hCalendar, WORD day)
             MCHITTESTINFO hit{};
             hit.cbSize = sizeof(hit);
             hit.pt = POINT{x, y};
-            if (MonthCal_HitTest(hCalendar, &hit) == MCHT_CALENDARDATE && hit.st.wDay == day)
+            if (MonthCal_HitTest(hCalendar, &hit) == part && (day == 0 || hit.st.wDay == day))
                 return hit.pt;
         }
     }
     return POINT{-1, -1};
 }
 
-TEST_F(WindowTest, CalendarShowsTheTypedDateAndPicksADay)
+TEST_F(WindowTest, CalendarShowsTheTypedDateBrowsesAndPicksADay)
 {
     CalendarForm f(status.MainWindow());
     TypeText("3152024");
-    const std::string typed = TextOf(f.field);
     PressKey(VK_F4);
     const HWND hCalendar = CalendarForm::FindCalendar();
     SYSTEMTIME shown{};
     MonthCal_GetCurSel(hCalendar, &shown);
-    EXPECT_EQ(std::make_tuple(shown.wYear, shown.wMonth, shown.wDay), std::make_tuple(2024, 3, 15)) << typed;
-    ClickAt(hCalendar, DayPoint(hCalendar, 20));
-    EXPECT_FALSE(f.field.GetPopupState()) << "a picked day closes the popup";
-    EXPECT_EQ(TextOf(f.field), "3/20/2024");
+    EXPECT_EQ(std::make_tuple(shown.wYear, shown.wMonth, shown.wDay), std::make_tuple(2024, 3, 15));
+    ClickAt(hCalendar, CalendarPoint(hCalendar, MCHT_TITLEBTNNEXT));
+    EXPECT_TRUE(f.field.GetPopupState()) << "browsing keeps the calendar open";
+    EXPECT_EQ(TextOf(f.field), "4/15/2024") << "and writes each date at once";
+    PressKey(VK_ESCAPE);
+    EXPECT_EQ(TextOf(f.field), "4/15/2024") << "Escape keeps the last date";
+
+    PressKey(VK_F4);
+    ClickAt(hCalendar, CalendarPoint(hCalendar, MCHT_CALENDARDATE, 20));
+    EXPECT_FALSE(f.field.GetPopupState()) << "a picked day closes the calendar";
+    EXPECT_EQ(TextOf(f.field), "4/20/2024");
     EXPECT_EQ(::GetFocus(), f.field.m_hWnd);
 
     f.field.SetWindowText("not a date");
-    EXPECT_EQ(TextOf(f.field), "3/20/2024") << "a text that is no date is ignored";
+    EXPECT_EQ(TextOf(f.field), "4/20/2024") << "a text that is no date is ignored";
     f.field.SetWindowText("12312023");
     EXPECT_EQ(TextOf(f.field), "12/31/2023") << "another form of a date is shown in the display form";
+}
+
+// The open calendar has the focus without the field being checked; Tab closes
+// it and moves on, and only then is the field checked.
+TEST_F(WindowTest, CalendarFieldIsCheckedWhenTheFocusLeavesPastItsPopup)
+{
+    CalendarForm f(status.MainWindow());
+    const int clears = status.clears;
+    PressKey(VK_F4);
+    EXPECT_EQ(status.clears, clears);
+    PressKey(VK_TAB);
+    EXPECT_FALSE(f.field.GetPopupState());
+    EXPECT_EQ(::GetFocus(), f.other.m_hWnd);
+    EXPECT_EQ(status.clears, clears + 1) << "verified valid once";
 }
 
 TEST_F(WindowTest, ReadOnlyDropEditNeverOpensWithTheMouse)
@@ -135,6 +157,33 @@ TEST_F(WindowTest, ReadOnlyDropEditNeverOpensWithTheMouse)
     EXPECT_FALSE(f.field.GetPopupState());
     FocusForInput(f.form.dialog, f.field);
     EXPECT_EQ(SelOf(f.field), std::make_pair(0, 0)) << "caret at the start, nothing selected";
+}
+
+TEST_F(WindowTest, DropButtonDrawsEachLook)
+{
+    constexpr COLORREF kText = RGB(0, 0, 200), kBk = RGB(250, 240, 200), kBlack = RGB(0, 0, 0);
+    const COLORREF face = ::GetSysColor(COLOR_BTNFACE), shadow = ::GetSysColor(COLOR_BTNSHADOW);
+    // Effects, enabled: the line at the button's left edge, its background, the arrow's middle.
+    const std::tuple<const char*, DWORD, bool, COLORREF, COLORREF, COLORREF> rows[] = {
+        {"flat with border", kvDropEditBase::EffectFlatBordered, true, kBlack, kBk, kText},
+        {"flat without border", kvDropEditBase::EffectFlatBorderless, true, kText, kBk, kText},
+        {"flat without border, disabled", kvDropEditBase::EffectFlatBorderless, false, shadow, face, shadow},
+        {"3-D", 0, true, face, face, kBlack},
+    };
+    FieldForm form(status.MainWindow());
+    for (const auto& [name, effects, enabled, edge, background, arrow] : rows) {
+        kvDropEditBase field;
+        field.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 130, 30), &form.dialog, kDate, effects);
+        field.SetTextColor(kText);
+        field.SetBkColor(kBk);
+        field.EnableWindow(enabled);
+        flushEvents();
+        const ClientPixels button(::GetWindow(field.m_hWnd, GW_CHILD));
+        const int middle = button.Height() / 2;
+        EXPECT_EQ(button.At(0, middle), edge) << name;
+        EXPECT_EQ(button.At(button.Width() - 3, 2), background) << name;
+        EXPECT_EQ(button.At(button.Width() / 2, middle), arrow) << name;
+    }
 }
 
 TEST(DropEditGdi, AThousandDropDownsLeaveNoObjectsBehind)
