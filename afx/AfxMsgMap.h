@@ -285,6 +285,7 @@ protected:                                              \
 #define AFX_MOUSE_ENTRY(message, memberFxn)                                                 \
     AFX_WM_ENTRY(message, AFX_HANDLER(memberFxn, void, (UINT, CPoint))(static_cast<UINT>(wParam), AFX_POINT_LPARAM))
 #define ON_WM_LBUTTONDOWN() AFX_MOUSE_ENTRY(WM_LBUTTONDOWN, OnLButtonDown)
+#define ON_WM_RBUTTONDOWN() AFX_MOUSE_ENTRY(WM_RBUTTONDOWN, OnRButtonDown)
 #define ON_WM_LBUTTONUP() AFX_MOUSE_ENTRY(WM_LBUTTONUP, OnLButtonUp)
 #define ON_WM_LBUTTONDBLCLK() AFX_MOUSE_ENTRY(WM_LBUTTONDBLCLK, OnLButtonDblClk)
 #define ON_WM_MOUSEMOVE() AFX_MOUSE_ENTRY(WM_MOUSEMOVE, OnMouseMove)

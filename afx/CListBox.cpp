@@ -44,6 +44,36 @@ int CListBox::GetItemHeight(int nIndex) const
     return static_cast<int>(SendMessage(LB_GETITEMHEIGHT, static_cast<WPARAM>(nIndex)));
 }
 
+int CListBox::SetItemHeight(int nIndex, UINT cyItemHeight)
+{
+    assert(::IsWindow(m_hWnd));
+    return static_cast<int>(SendMessage(LB_SETITEMHEIGHT, static_cast<WPARAM>(nIndex), MAKELPARAM(cyItemHeight, 0)));
+}
+
+int CListBox::InitStorage(int nItems, UINT nBytes)
+{
+    assert(::IsWindow(m_hWnd));
+    return static_cast<int>(SendMessage(LB_INITSTORAGE, static_cast<WPARAM>(nItems), nBytes));
+}
+
+UINT CListBox::GetHorizontalExtent() const
+{
+    assert(::IsWindow(m_hWnd));
+    return static_cast<UINT>(SendMessage(LB_GETHORIZONTALEXTENT));
+}
+
+void CListBox::SetHorizontalExtent(UINT cxExtent)
+{
+    assert(::IsWindow(m_hWnd));
+    SendMessage(LB_SETHORIZONTALEXTENT, cxExtent);
+}
+
+int CListBox::Dir(UINT attr, LPCTSTR lpszWildCard)
+{
+    assert(::IsWindow(m_hWnd));
+    return static_cast<int>(SendMessage(LB_DIR, attr, reinterpret_cast<LPARAM>(lpszWildCard)));
+}
+
 int CListBox::GetItemRect(int nIndex, LPRECT lpRect) const
 {
     assert(::IsWindow(m_hWnd));

@@ -15,6 +15,13 @@ public:
     int GetTopIndex() const;
     int SetTopIndex(int nIndex);
     int GetItemHeight(int nIndex) const;
+    int SetItemHeight(int nIndex, UINT cyItemHeight);
+    // LB_INITSTORAGE: room for nItems items of nBytes string bytes in all.
+    int InitStorage(int nItems, UINT nBytes);
+    UINT GetHorizontalExtent() const;
+    void SetHorizontalExtent(UINT cxExtent);
+    // LB_DIR: the files matching lpszWildCard with the DDL_ attributes.
+    int Dir(UINT attr, LPCTSTR lpszWildCard);
     int GetItemRect(int nIndex, LPRECT lpRect) const;
     // The item nearest to pt (client coordinates); bOutside is set when pt lies
     // outside every item.

@@ -251,12 +251,25 @@ void kvEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
         return;
     }
     if (nChar == VK_INSERT)
-        kvSendStatus(kvStatusSetOvertype, IsOvertypeOn() ? 0 : 1);
+        kvToggleOvertype();
     if (m_pOldFormatter != nullptr)
         _FormatterOnKeyDown(nChar);
     else
         CEdit::OnKeyDown(nChar, nRepCnt, nFlags);
 }
+
+bool kvEdit::FormatterKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    const CString before = _Text();
+    CString text(before);
+    unsigned long sel = GetSel();
+    if (m_pFormatter->DoKeyDown(text, sel, IsOvertypeOn(), nChar, nRepCnt, nFlags))
+        return false;
+    _ShowEdit(before, text, sel);
+    return true;
+}
+
+void kvEdit::ReplaceText(const CString& text) { _ShowEdit(_Text(), text, kvPackSel(0, text.GetLength())); }
 
 void kvEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
@@ -322,17 +335,22 @@ void kvEdit::OnSetFocus(CWnd* pOldWnd)
 {
     CEdit::OnSetFocus(pOldWnd);
     CString text = _Text();
-    if (m_pOldFormatter != nullptr) {
+    if (m_pOldFormatter != nullptr)
         _FormatterOnSetFocus(text);
-    } else if (m_pFormatter != nullptr) {
-        unsigned long sel = GetSel();
-        m_pFormatter->DoEnterField(text, sel);
-        _SetWindowText(text);
-        _Select(sel);
-    }
-    if ((GetStyle() & ES_RIGHT) && !text.IsEmpty())
+    else if (m_pFormatter != nullptr)
+        EnterField();
+    if ((GetStyle() & ES_RIGHT) && !_Text().IsEmpty())
         _AnchorRightAlignedText();
     kvReportFocusIn(this);
+}
+
+void kvEdit::EnterField()
+{
+    CString text = _Text();
+    unsigned long sel = GetSel();
+    m_pFormatter->DoEnterField(text, sel);
+    _SetWindowText(text);
+    _Select(sel);
 }
 
 void kvEdit::OnKillFocus(CWnd* pNewWnd)

@@ -30,6 +30,8 @@ public:
 
     void SetTextColor(COLORREF crText);
     void SetBkColor(COLORREF crBk);
+    COLORREF GetTextColor() const { return m_Colors.GetTextColor(); }
+    COLORREF GetBkColor() const { return m_Colors.GetBkColor(); }
 
     // The legacy formatter's verdict on the text (true without one).
     bool IsValidExitField();
@@ -37,6 +39,14 @@ public:
     void FixRightJustifiedText();
 
 protected:
+    // The formatter's entry form of the text, written back with its selection.
+    void EnterField();
+    // The formatter's own keys (Delete ...); false when the key is left to the caller.
+    bool FormatterKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    // Text the control chose for the user (a date picked in a popup): written
+    // with all of it selected, and announced as a change when it is one.
+    void ReplaceText(const CString& text);
+
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);

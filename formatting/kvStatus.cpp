@@ -65,6 +65,8 @@ void kvBeep(UINT type)
 
 #endif
 
+void kvToggleOvertype() { kvSendStatus(kvStatusSetOvertype, kvSendStatus(kvStatusGetOvertype, 0) != 0 ? 0 : 1); }
+
 void kvShowStatusMessage(const CString& message)
 {
     kvWinAMCtrlValidateInfo info(message);

@@ -15,6 +15,7 @@ struct PageRow {
 const PageRow kPages[] = {
     {"&Form", "form"},
     {"&Buttons", "buttons"},
+    {"&Drop-downs", "dropdowns"},
     {"&Calculator", "calculator"},
     {"&Progress", "progress"},
 };
@@ -46,6 +47,7 @@ BOOL GalleryBook::OnInitDialog()
     CreateNotebook(m_initialStyle);
     m_form.Create(this);
     m_buttons.Create(this);
+    m_dropdowns.Create(this);
     m_calculator.Create(this);
     m_progress.Create(this);
     AddPages();
@@ -114,4 +116,9 @@ void GalleryBook::ShowPageForPicture(int nPage)
 {
     m_pNotebook->SetCurSel(nPage);
     m_pages[nPage]->PrepareForPicture();
+}
+
+CString GalleryBook::ShowPopupForPicture(int nPage, int nPicture)
+{
+    return CString(kPages[nPage].name) + "-" + m_pages[nPage]->PreparePopupPicture(nPicture);
 }

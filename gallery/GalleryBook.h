@@ -9,6 +9,7 @@
 #include "gallery/ButtonsPage.h"
 #include "gallery/CalculatorPage.h"
 #include "gallery/CustomerForm.h"
+#include "gallery/DropDownsPage.h"
 #include "gallery/ProgressPage.h"
 #include "notebook/kvTabNotebook.h"
 
@@ -27,6 +28,9 @@ public:
     static const char* PageName(int nPage);
     // Shows the page as its picture shows it.
     void ShowPageForPicture(int nPage);
+    int GetPopupPictureCount(int nPage) const { return m_pages[nPage]->PopupPictureCount(); }
+    // Opens the popup of the page's n-th popup picture; the picture's name.
+    CString ShowPopupForPicture(int nPage, int nPicture);
 
 protected:
     BOOL OnInitDialog() override;
@@ -45,9 +49,10 @@ private:
     std::unique_ptr<kvTabNotebook> m_pNotebook;
     CustomerForm m_form;
     ButtonsPage m_buttons;
+    DropDownsPage m_dropdowns;
     CalculatorPage m_calculator;
     ProgressPage m_progress;
-    std::array<GalleryPage*, 4> m_pages{&m_form, &m_buttons, &m_calculator, &m_progress};
+    std::array<GalleryPage*, 5> m_pages{&m_form, &m_buttons, &m_dropdowns, &m_calculator, &m_progress};
     kvTabNotebook::TabStyle m_initialStyle = kvTabNotebook::StandardTabs;
     kvEditValidator m_validator;
 };

@@ -18,6 +18,11 @@ public:
     virtual bool CanLeave() { return true; }
     // Puts the page in the state its picture shows.
     virtual void PrepareForPicture() {}
+    // Pictures of the page with a popup open, after its own picture: how many,
+    // and the step that opens the n-th, which returns its name ("calendar"
+    // makes "<page>-calendar"). The next page shown closes the popup.
+    virtual int PopupPictureCount() const { return 0; }
+    virtual const char* PreparePopupPicture(int) { return nullptr; }
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 

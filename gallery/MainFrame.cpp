@@ -122,14 +122,36 @@ void MainFrame::OnTimer(UINT_PTR nIDEvent)
     KillTimer(kPictureTimer);
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     const int page = m_book.GetPageCount() - 1 - m_pictureCount;
-    const CString file = m_pictureFolder + "/" + GalleryBook::PageName(page) + ".bmp";
-    m_picturesSaved = SaveWindowBitmap(m_hWnd, file) && m_picturesSaved;
+    const bool saved = m_popupPicture == 0
+                           ? SaveWindowBitmap(m_hWnd, m_pictureFolder + "/" + GalleryBook::PageName(page) + ".bmp")
+                           : SavePopupPicture();
+    m_picturesSaved = saved && m_picturesSaved;
+    if (m_popupPicture < m_book.GetPopupPictureCount(page)) {
+        m_popupPictureName = m_book.ShowPopupForPicture(page, m_popupPicture++);
+        SetTimer(kPictureTimer, kPictureDelayMs);
+        return;
+    }
+    m_popupPicture = 0;
     if (++m_pictureCount < m_book.GetPageCount()) {
         ShowNextPicturePage();
         return;
     }
     theApp.PictureSaved(m_picturesSaved);
     DestroyWindow();
+}
+
+// The frame with the open popup, which has the focus, over it or beside it;
+// Escape closes the popup again.
+bool MainFrame::SavePopupPicture()
+{
+    CRect shown, popup;
+    GetWindowRect(&shown);
+    const HWND hPopup = ::GetFocus();
+    ::GetWindowRect(hPopup, &popup);
+    shown.UnionRect(CRect(shown), popup);
+    const bool saved = SaveScreenBitmap(shown, m_pictureFolder + "/" + m_popupPictureName + ".bmp");
+    ::SendMessage(hPopup, WM_KEYDOWN, VK_ESCAPE, 1);
+    return saved;
 }
 
 void MainFrame::OnAppAbout()

@@ -33,6 +33,7 @@ private:
     void ShowOvertype();
     void ShowTabStyleInMenu();
     void ShowNextPicturePage();
+    bool SavePopupPicture();
 
     CMFCStatusBar m_statusBar;
     GalleryBook m_book;
@@ -41,4 +42,6 @@ private:
     CString m_pictureFolder;
     int m_pictureCount = 0;  // pages whose pictures are saved or on their way
     bool m_picturesSaved = true;
+    int m_popupPicture = 0;  // the current page's popup pictures saved or on their way
+    CString m_popupPictureName;
 };

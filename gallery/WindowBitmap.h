@@ -5,3 +5,5 @@
 #include "afx/WinTypes.h"
 
 bool SaveWindowBitmap(HWND window, const char* fileName);
+// What the screen shows in a rectangle: a window with the popups over it.
+bool SaveScreenBitmap(const RECT& rect, const char* fileName);

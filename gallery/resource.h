@@ -6,6 +6,7 @@
 #define IDD_ABOUTBOX 102
 #define IDD_BUTTONS 103
 #define IDD_GALLERY 104
+#define IDD_DROPDOWNS 105
 #define IDD_CALCULATOR 120
 #define IDD_PROGRESS 121
 
@@ -37,6 +38,21 @@
 #define IDC_HOVER_FLAT 1026
 #define IDC_HOVER_LINK 1027
 #define IDC_HOVER_STANDARD 1028
+
+// The drop-downs page's fields and their labels.
+#define IDC_INVOICE_DATE 1040
+#define IDC_DUE_DATE 1041
+#define IDC_SHIP_DATE 1042
+#define IDC_ORDER_DATE 1043
+#define IDC_FLAT_LABEL 1044
+#define IDC_BORDERLESS_LABEL 1045
+#define IDC_READONLY_LABEL 1046
+#define IDC_STATE 1047
+#define IDC_PRODUCT 1048
+#define IDC_UNIT 1049
+#define IDC_COLORS 1050
+#define IDC_STATE_LABEL 1051
+#define IDC_PRODUCT_LABEL 1052
 
 // The calculator and progress pages.
 #define IDC_CALC_OWN_GROUP 1100
