@@ -8,6 +8,8 @@
 // edit list costs at most 1.5 times the combo box per character, 1 when it
 // costs more, 2 when nothing could be measured (no window, or a field that did
 // not complete the word as typed).
+#include "BenchApp.h"
+
 #include "afx/CComboBox.h"
 #include "afx/CFrameWnd.h"
 #include "afx/CWinApp.h"
@@ -36,36 +38,6 @@ constexpr int kWordLength = sizeof kWord - 1;
 constexpr UINT kBackspace = 8;
 constexpr UINT kComboId = 101;
 constexpr UINT kListId = 102;
-
-LONGLONG Ticks()
-{
-    LARGE_INTEGER now;
-    ::QueryPerformanceCounter(&now);
-    return now.QuadPart;
-}
-
-double NanosecondsOf(LONGLONG ticks)
-{
-    LARGE_INTEGER frequency;
-    ::QueryPerformanceFrequency(&frequency);
-    return static_cast<double>(ticks) * 1e9 / static_cast<double>(frequency.QuadPart);
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    const size_t middle = values.size() / 2;
-    return values.size() % 2 != 0 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
-}
-
-void PumpQueue()
-{
-    MSG msg;
-    while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
-        if (!AfxPreTranslateMessage(&msg))
-            ::DispatchMessageA(&msg);
-    }
-}
 
 std::string TextOf(HWND hWnd)
 {
@@ -184,46 +156,7 @@ double MeasureOpening(Open open, Close close)
     return NanosecondsOf(ticks) / kOpensPerRound / 1000;
 }
 
-}  // namespace
-
-// ---- the application ----
-
-class BenchApp : public CWinApp {
-public:
-    BenchApp() : CWinApp("drop edit list benchmark") {}
-
-    // Shows the fields, measures, and closes the main window: the message loop
-    // then ends with the benchmark's exit status.
-    BOOL InitInstance() override;
-    int ExitInstance() override { return m_exitCode; }
-
-private:
-    int Run(BenchFrame& frame);
-
-    int m_exitCode = 2;
-};
-
-BenchApp theApp;
-
-BOOL BenchApp::InitInstance()
-{
-    auto* frame = new BenchFrame;
-    // A frame that fails to be created has deleted itself.
-    if (!frame->Create()) {
-        std::printf("The benchmark's window could not be created (is there an X display?).\n");
-        return FALSE;
-    }
-    m_pMainWnd = frame;
-    frame->UpdateWindow();
-    frame->SetForegroundWindow();
-    PumpQueue();
-    m_exitCode = Run(*frame);
-    std::fflush(stdout);
-    frame->PostMessage(WM_CLOSE);
-    return TRUE;
-}
-
-int BenchApp::Run(BenchFrame& frame)
+int RunBenchmark(BenchFrame& frame)
 {
     const Contender combo{"CBS_DROPDOWN", frame.ComboEdit(), frame.m_combo.m_hWnd};
     const Contender list{"kvDropEditList", frame.m_list.m_hWnd, frame.m_list.m_hWnd};
@@ -257,3 +190,7 @@ int BenchApp::Run(BenchFrame& frame)
     std::printf("%-28s %16.1f %16.1f %8.2f\n", "us to open the list", comboOpen, listOpen, listOpen / comboOpen);
     return listChar / comboChar <= kMaxRatio ? 0 : 1;
 }
+
+}  // namespace
+
+BenchApp<BenchFrame> theApp("drop edit list benchmark", RunBenchmark);

@@ -9,6 +9,8 @@
 // at most three times the bare control in every delivery, 1 when it costs more,
 // 2 when nothing could be measured (no window, or a field that did not take the
 // keys as typed).
+#include "BenchApp.h"
+
 #include "afx/AfxExtension.h"
 #include "afx/CEdit.h"
 #include "afx/CFrameWnd.h"
@@ -54,41 +56,7 @@ const char* NameOf(Delivery how)
     return how == Delivery::Sent ? "WM_CHAR sent" : "keys queued and pumped";
 }
 
-// ---- time ----
-
-LONGLONG Ticks()
-{
-    LARGE_INTEGER now;
-    ::QueryPerformanceCounter(&now);
-    return now.QuadPart;
-}
-
-double NanosecondsOf(LONGLONG ticks)
-{
-    LARGE_INTEGER frequency;
-    ::QueryPerformanceFrequency(&frequency);
-    return static_cast<double>(ticks) * 1e9 / static_cast<double>(frequency.QuadPart);
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    const size_t middle = values.size() / 2;
-    return values.size() % 2 != 0 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
-}
-
 // ---- keys ----
-
-// Dispatches what is queued, paints included, through the application's
-// PreTranslateMessage as its message loop would.
-void PumpQueue()
-{
-    MSG msg;
-    while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
-        if (!AfxPreTranslateMessage(&msg))
-            ::DispatchMessageA(&msg);
-    }
-}
 
 void SendChar(HWND hField, UINT ch) { ::SendMessageA(hField, WM_CHAR, ch, 1); }
 
@@ -340,7 +308,7 @@ void PrintMessageCounts(const std::vector<Contender>& contenders)
 }
 
 // The benchmark's exit status.
-int RunBenchmark(const BenchFrame& frame)
+int RunBenchmark(BenchFrame& frame)
 {
     const std::vector<Contender> contenders = frame.Contenders();
     PrintHeader(contenders);
@@ -364,38 +332,4 @@ int RunBenchmark(const BenchFrame& frame)
 
 }  // namespace
 
-// ---- the application ----
-
-class BenchApp : public CWinApp {
-public:
-    BenchApp() : CWinApp("kvEdit typing benchmark") {}
-
-    // Shows the fields, measures, and closes the main window: the message loop
-    // then ends with the benchmark's exit status.
-    BOOL InitInstance() override;
-    int ExitInstance() override { return m_exitCode; }
-
-private:
-    int m_exitCode = 2;
-};
-
-BenchApp theApp;
-
-BOOL BenchApp::InitInstance()
-{
-    auto* frame = new BenchFrame;
-    // A frame that fails to be created has deleted itself.
-    if (!frame->Create()) {
-        std::printf("The benchmark's window could not be created (is there an X display?).\n");
-        return FALSE;
-    }
-    m_pMainWnd = frame;
-    frame->ShowWindow(SW_SHOW);
-    frame->UpdateWindow();
-    frame->SetForegroundWindow();
-    PumpQueue();
-    m_exitCode = RunBenchmark(*frame);
-    std::fflush(stdout);
-    frame->PostMessage(WM_CLOSE);
-    return TRUE;
-}
+BenchApp<BenchFrame> theApp("kvEdit typing benchmark", RunBenchmark);

@@ -9,6 +9,8 @@
 // Run by hand (under Wine inside an X display). Exit status 0 when a step costs
 // under 1 microsecond on average, 1 when it costs more, 2 when nothing could be
 // measured.
+#include "BenchApp.h"
+
 #include "afx/CFrameWnd.h"
 #include "afx/CProgressCtrl.h"
 #include "afx/CWinApp.h"
@@ -27,26 +29,6 @@ constexpr int kRounds = 5;
 constexpr int kNativeSteps = 2000;
 constexpr double kTargetNs = 1000.0;
 
-LONGLONG Ticks()
-{
-    LARGE_INTEGER now;
-    ::QueryPerformanceCounter(&now);
-    return now.QuadPart;
-}
-
-double NanosecondsPerStep(LONGLONG ticks, int steps = kSteps)
-{
-    LARGE_INTEGER frequency;
-    ::QueryPerformanceFrequency(&frequency);
-    return static_cast<double>(ticks) * 1e9 / static_cast<double>(frequency.QuadPart) / steps;
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 // The job's own work per step, kept from being optimised away.
 volatile unsigned long g_sink = 0;
 inline void Work(int step) { g_sink = g_sink + static_cast<unsigned long>(step); }
@@ -56,7 +38,7 @@ double Bare()
     const LONGLONG start = Ticks();
     for (int step = 0; step < kSteps; ++step)
         Work(step);
-    return NanosecondsPerStep(Ticks() - start);
+    return NanosecondsOf(Ticks() - start) / kSteps;
 }
 
 // A shown progress window; false when the job was stopped before its end.
@@ -73,7 +55,7 @@ double Reported(bool& completed)
     }
     const LONGLONG ticks = Ticks() - start;
     completed = progress.Continue() && progress.IsWindowVisible();
-    return NanosecondsPerStep(ticks);
+    return NanosecondsOf(ticks) / kSteps;
 }
 
 double Native(CWnd& frame)
@@ -87,10 +69,16 @@ double Native(CWnd& frame)
         Work(step);
         bar.StepIt();
     }
-    return NanosecondsPerStep(Ticks() - start, kNativeSteps);
+    return NanosecondsOf(Ticks() - start) / kNativeSteps;
 }
 
 class BenchFrame : public CFrameWnd {
+public:
+    BOOL Create()
+    {
+        return CFrameWnd::Create(nullptr, "kvProgressWnd step benchmark", WS_OVERLAPPEDWINDOW, CRect(40, 40, 360, 200));
+    }
+
 protected:
     // Answers the library's status message as an application's main window does.
     afx_msg LRESULT OnStatusMessage(WPARAM, LPARAM) { return 0; }
@@ -126,33 +114,4 @@ int RunBenchmark(BenchFrame& frame)
 
 }  // namespace
 
-class BenchApp : public CWinApp {
-public:
-    BenchApp() : CWinApp("kvProgressWnd step benchmark") {}
-
-    // Measures with the main window shown, then closes it: the message loop
-    // ends with the benchmark's exit status.
-    BOOL InitInstance() override;
-    int ExitInstance() override { return m_exitCode; }
-
-private:
-    int m_exitCode = 2;
-};
-
-BenchApp theApp;
-
-BOOL BenchApp::InitInstance()
-{
-    auto* frame = new BenchFrame;
-    if (!frame->Create(nullptr, "kvProgressWnd step benchmark", WS_OVERLAPPEDWINDOW, CRect(40, 40, 360, 200))) {
-        std::printf("The benchmark's window could not be created (is there an X display?).\n");
-        return FALSE;
-    }
-    m_pMainWnd = frame;
-    frame->ShowWindow(SW_SHOW);
-    frame->UpdateWindow();
-    m_exitCode = RunBenchmark(*frame);
-    std::fflush(stdout);
-    frame->PostMessage(WM_CLOSE);
-    return TRUE;
-}
+BenchApp<BenchFrame> theApp("kvProgressWnd step benchmark", RunBenchmark);
