@@ -84,6 +84,13 @@ void kvCalculatorCtrl::SetShowMyEdit(bool show)
 
 void kvCalculatorCtrl::SetValue(const CString& text) { _SetValue(text, true); }
 
+CString kvCalculatorCtrl::GetValue() const
+{
+    CString text;
+    m_pTargetEdit->GetWindowText(text);
+    return text;
+}
+
 CRect kvCalculatorCtrl::ButtonRect(int button) const { return m_Keypad.ButtonRect(button); }
 
 void kvCalculatorCtrl::DrawSymbol(CDC* pDC, int button, CRect rect, unsigned long color)

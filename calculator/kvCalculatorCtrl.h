@@ -34,12 +34,14 @@ public:
     void SetShowMyEdit(bool show);
     // Puts the text into the display in display form.
     void SetValue(const CString& text);
+    // The display's text.
+    CString GetValue() const;
 
 protected:
     CRect ButtonRect(int button) const;
     void DrawSymbol(CDC* pDC, int button, CRect rect, unsigned long color);
     // A key pressed by mouse or keyboard; an empty rect means the key's own.
-    void HandleButtonClick(int button, CRect rect);
+    virtual void HandleButtonClick(int button, CRect rect);
 
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);

@@ -4,7 +4,7 @@
 
 #include "afx/AfxInitCommonControls.h"
 #include "dropdown/kvCalendarCombo.h"
-#include "dropdown/kvPopupPlacement.h"
+#include "dropdown/kvPopupWindow.h"
 #include "formatting/kvDateEditFormatter.h"
 #include "formatting/kvMessages.h"
 
@@ -44,14 +44,7 @@ bool _kvCalendarComboPopup::Create(CWnd* pParent)
 void _kvCalendarComboPopup::Show(CRect field, const CString& text)
 {
     SetWindowText(text);
-    CRect window;
-    GetWindowRect(&window);
-    SetCapture();
-    const CSize screen(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
-    const CPoint topLeft = kvPopupPlacement::TopLeft(field, window.Size(), screen);
-    SetWindowPos(&CWnd::wndTop, topLeft.x, topLeft.y, window.Width(), window.Height(), SWP_NOACTIVATE);
-    ShowWindow(SW_SHOWNORMAL);
-    SetFocus();
+    kvShowPopupWindow(*this, field);
 }
 
 void _kvCalendarComboPopup::Hide() { ShowWindow(SW_HIDE); }
@@ -133,12 +126,10 @@ void _kvCalendarComboPopup::OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 // With the capture, the popup sees clicks anywhere on the screen.
 void _kvCalendarComboPopup::_CloseOnClickOutside(CPoint point)
 {
-    CRect client;
-    GetClientRect(&client);
-    if (client.PtInRect(point))
-        Default();
-    else
+    if (kvIsOutsidePopup(*this, point))
         m_pField->SendMessage(WM_KV_CLOSEPOPUP);
+    else
+        Default();
 }
 
 void _kvCalendarComboPopup::OnLButtonDown(UINT, CPoint point) { _CloseOnClickOutside(point); }
@@ -156,10 +147,6 @@ void _kvCalendarComboPopup::OnLButtonUp(UINT, CPoint)
 void _kvCalendarComboPopup::OnKillFocus(CWnd*)
 {
     Default();
-    const DWORD position = ::GetMessagePos();
-    const POINT point{static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
-    CRect window;
-    GetWindowRect(&window);
-    if (IsWindowVisible() && !window.PtInRect(point))
+    if (kvIsMessageOutsidePopup(*this))
         m_pField->SendMessage(WM_KV_CLOSEPOPUP);
 }

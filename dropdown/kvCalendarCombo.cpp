@@ -1,11 +1,9 @@
-// kvCalendarCombo: creation with the calendar and its glyph, and the date
-// formatter's part in typing, keys, focus and verification.
+// kvCalendarCombo: creation with the calendar and its glyph.
 #include "dropdown/kvCalendarCombo.h"
 
 #include "afx/AfxExtension.h"
 #include "dropdown/_kvCalendarComboPopup.h"
 #include "formatting/kvDateEditFormatter.h"
-#include "formatting/kvMessages.h"
 #include "library/kvLibraryModule.h"
 #include "library/resource.h"
 
@@ -15,13 +13,6 @@ constexpr COLORREF kGlyphBackground = RGB(192, 192, 192);
 constexpr int kButtonWidth = 18;
 
 }  // namespace
-
-BEGIN_MESSAGE_MAP(kvCalendarCombo, kvDropEditBase)
-    ON_MESSAGE(WM_KV_VERIFY, OnVerify)
-    ON_WM_CHAR()
-    ON_MESSAGE(WM_SETTEXT, OnSetText)
-    ON_WM_CONTEXTMENU()
-END_MESSAGE_MAP()
 
 // The glyph is the library's own, whatever resources the application has.
 kvCalendarCombo::kvCalendarCombo()
@@ -44,7 +35,7 @@ kvDateEditFormatter& kvCalendarCombo::_Formatter() const
 BOOL kvCalendarCombo::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID, DWORD dwEffects)
 {
     m_pCalendar = std::make_unique<_kvCalendarComboPopup>(this);
-    if (!m_pCalendar->Create(pParentWnd) || !kvDropEditBase::Create(dwStyle, rect, pParentWnd, nID, dwEffects))
+    if (!m_pCalendar->Create(pParentWnd) || !kvFormattedDropEdit::Create(dwStyle, rect, pParentWnd, nID, dwEffects))
         return FALSE;
     SetBitmap(&m_ButtonImage, kGlyphBackground);
     SetButtonWidth(kButtonWidth);
@@ -53,18 +44,3 @@ BOOL kvCalendarCombo::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, 
 }
 
 void kvCalendarCombo::_ShowDate(const CString& text) { ReplaceText(text); }
-
-void kvCalendarCombo::OnSetFocus(CWnd* pOldWnd)
-{
-    kvDropEditBase::OnSetFocus(pOldWnd);
-    EnterField();
-}
-
-void kvCalendarCombo::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
-{
-    if (IsReadOnly() || !FormatterKeyDown(nChar, nRepCnt, nFlags))
-        kvDropEditBase::OnKeyDown(nChar, nRepCnt, nFlags);
-}
-
-// The date formatter's verdict, not the plain drop edit's "always valid".
-LRESULT kvCalendarCombo::OnVerify(WPARAM wParam, LPARAM lParam) { return kvEdit::OnVerify(wParam, lParam); }

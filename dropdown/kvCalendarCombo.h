@@ -5,7 +5,7 @@
 #pragma once
 
 #include "afx/CBitmap.h"
-#include "dropdown/kvDropEditBase.h"
+#include "dropdown/kvFormattedDropEdit.h"
 #include "library/kvWinExport.h"
 
 #include <memory>
@@ -13,20 +13,13 @@
 class _kvCalendarComboPopup;
 class kvDateEditFormatter;
 
-class KVWIN_API kvCalendarCombo : public kvDropEditBase {
+class KVWIN_API kvCalendarCombo : public kvFormattedDropEdit {
 public:
     kvCalendarCombo();
     ~kvCalendarCombo() override;
 
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID, DWORD dwEffects) override;
-    using kvDropEditBase::Create;
-
-protected:
-    void OnSetFocus(CWnd* pOldWnd) override;
-    void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) override;
-    afx_msg LRESULT OnVerify(WPARAM wParam, LPARAM lParam);
-
-    DECLARE_MESSAGE_MAP()
+    using kvFormattedDropEdit::Create;
 
 private:
     friend class _kvCalendarComboPopup;

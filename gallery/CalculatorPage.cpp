@@ -1,6 +1,7 @@
 // CalculatorPage
 #include "gallery/CalculatorPage.h"
 
+#include "formatting/kvNumEditFormatter.h"
 #include "gallery/resource.h"
 
 BOOL CalculatorPage::Create(CWnd* pParent) { return CDialog::Create(IDD_CALCULATOR, pParent); }
@@ -13,6 +14,7 @@ BOOL CalculatorPage::OnInitDialog()
     CreateIn(m_paired, IDC_CALC_PAIRED_GROUP, IDC_CALC_PAIRED);
     m_amount.SubclassDlgItem(IDC_CALC_AMOUNT, this);
     m_paired.SetPairedEdit(&m_amount);
+    CreateTotal();
     return TRUE;
 }
 
@@ -24,6 +26,18 @@ void CalculatorPage::CreateIn(kvCalculatorCtrl& calculator, UINT nGroupID, UINT 
     const CPoint topLeft(group.left + 10, group.top + 18);
     calculator.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(topLeft, CSize(10, 10)), this, nID);
     calculator.MoveWindow(CRect(topLeft, calculator.GetMinReqRect().Size()));
+}
+
+// The invoice amount's rules: positive, at most a million.
+void CalculatorPage::CreateTotal()
+{
+    auto* pFormatter = new kvNumEditFormatter(9, 2, kvNumEditFormatter::Separators | kvNumEditFormatter::PadDecimals);
+    pFormatter->SetLowerLimit(0, kvNumEditFormatter::LowerExclusive);
+    pFormatter->SetUpperLimit(1000000, kvNumEditFormatter::UpperInclusive);
+    m_total.SetFormatter(pFormatter);
+    m_total.SetSpecialEffects(kvDropEditBase::EffectRightAligned);
+    m_total.SubclassDlgItem(IDC_CALC_COMBO, this);
+    m_total.SetWindowText("1,250.00");
 }
 
 void CalculatorPage::PrepareForPicture()
