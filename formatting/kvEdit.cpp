@@ -55,8 +55,6 @@ bool IsArrowKey(UINT nChar)
 
 bool IsSignKey(UINT nChar) { return nChar == '-' || nChar == '+'; }
 
-bool IsOvertypeOn() { return kvSendStatus(kvStatusGetOvertype, 0) != 0; }
-
 bool IsEmptySelection(unsigned long sel) { return kvSelStart(sel) == kvSelEnd(sel); }
 
 CString SelectedChars(const CString& text, int start, int end) { return text.Mid(start, end - start); }
@@ -263,7 +261,7 @@ bool kvEdit::FormatterKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
     const CString before = _Text();
     CString text(before);
     unsigned long sel = GetSel();
-    if (m_pFormatter->DoKeyDown(text, sel, IsOvertypeOn(), nChar, nRepCnt, nFlags))
+    if (m_pFormatter->DoKeyDown(text, sel, kvIsOvertypeOn(), nChar, nRepCnt, nFlags))
         return false;
     _ShowEdit(before, text, sel);
     return true;
@@ -281,7 +279,7 @@ void kvEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags)
         _FormatterOnChar(nChar);
         return;
     }
-    const bool overtype = IsOvertypeOn();
+    const bool overtype = kvIsOvertypeOn();
     if (m_pFormatter != nullptr) {
         const CString before = _Text();
         CString text(before);

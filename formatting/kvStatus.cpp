@@ -65,7 +65,9 @@ void kvBeep(UINT type)
 
 #endif
 
-void kvToggleOvertype() { kvSendStatus(kvStatusSetOvertype, kvSendStatus(kvStatusGetOvertype, 0) != 0 ? 0 : 1); }
+bool kvIsOvertypeOn() { return kvSendStatus(kvStatusGetOvertype, 0) != 0; }
+
+void kvToggleOvertype() { kvSendStatus(kvStatusSetOvertype, kvIsOvertypeOn() ? 0 : 1); }
 
 void kvShowStatusMessage(const CString& message)
 {

@@ -15,7 +15,8 @@
 KVWIN_API LRESULT kvSendStatus(WPARAM wParam, LPARAM lParam);
 // Shows a formatter's own message (control and code 0) on the main window.
 KVWIN_API void kvShowStatusMessage(const CString& message);
-// The overtype state every field shares, turned over.
+// The overtype state every field shares, and turning it over.
+KVWIN_API bool kvIsOvertypeOn();
 KVWIN_API void kvToggleOvertype();
 // MessageBeep(type).
 KVWIN_API void kvBeep(UINT type = 0);
